@@ -1,0 +1,50 @@
+#pragma once
+
+#include "zelUIElement.h"
+
+class ZelUIEditButton;
+class ZelUIFormulaLabel;
+class ZelUIInput;
+class ZelUISpacer;
+class ZelUIStdButtonBox;
+class ZelUITextLabel;
+class ZelUIUnitLabel;
+
+/// The ordinary line: label, symbol, one or more inputs, edit buttons, unit, icon buttons. Every
+/// part can be missing. Parts are not owned.
+class ZELCORE_EXPORT ZelUIStdElement : public ZelUIElement
+{
+public:
+    ZelUIStdElement();
+    ~ZelUIStdElement() override;
+
+    using ZelUIElement::setup;
+
+    /// One variable with all its components in a line. The attributes are those of the <var> node.
+    void setup(ZelUIVar *variable, AttrMap &attributes) override;
+    /// Several <var> nodes in a <line>.
+    void modelSetupLine(const ZelDomNode *line);
+
+    void modelMakeParts() override;
+    void updateState(Meta *meta, int64_t id) override;
+    void updateUnitSystem(bool keepDefault) override;
+    void resetUnits(bool keepDefault) override;
+
+    /// Makes parts put in by hand known to the walks; the build calls it itself.
+    void modelAdoptParts();
+
+    ZelUITextLabel *mLabel = nullptr;
+    ZelUIFormulaLabel *mFormulaLabel = nullptr;
+    std::vector<ZelUIInput *> mInputs;
+    std::vector<ZelUIEditButton *> mEditButtons;
+    ZelUISpacer *mSpacer = nullptr;
+    ZelUIUnitLabel *mUnitLabel = nullptr;
+    ZelUIStdButtonBox *mIconBox = nullptr;
+
+protected:
+    void modelForget(ZelUIObject *child) override;
+
+private:
+    struct Announced;
+    std::unique_ptr<Announced> mAnnounced;
+};

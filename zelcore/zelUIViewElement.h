@@ -1,0 +1,18 @@
+#pragma once
+
+#include "zelUIElement.h"
+
+class ZelDomNode;
+
+/// A picture, a diagram or a page of text that stands in a column as a whole.
+class ZELCORE_EXPORT ZelUIViewElement : public ZelUIElement
+{
+public:
+    ZelUIViewElement();
+    ~ZelUIViewElement() override;
+
+    using ZelUIElement::setup;
+    virtual void setup(const ZelDomNode *node);
+    /// True for a view that takes all the room it can get.
+    virtual bool isExpanding() const;
+};
