@@ -37,6 +37,7 @@ private slots:
     void solidLengthItselfIsAllowed_data();
     void solidLengthItselfIsAllowed();
     void unloadedFirstPointIsAllowed();
+    void largeSizeIsUsualForHotCoiledSprings();
 };
 
 static const SpringInput s1 = SpringExamples::s1();
@@ -387,6 +388,19 @@ void tst_springChecks::unloadedFirstPointIsAllowed()
     const SpringResult result = calculateSpring(input);
     QVERIFY(result.mValues);
     QCOMPARE(result.mValues->mFirst.mForce, 0.0);
+}
+
+void tst_springChecks::largeSizeIsUsualForHotCoiledSprings()
+{
+    SpringInput input = hot;
+    input.mWireDiameter = 48;
+    input.mCoilDiameter = 300;
+    input.mFreeLength = 720;
+    input.mFirstLength = 660;
+    input.mSecondLength = 540;
+    const SpringResult result = calculateSpring(input);
+    QVERIFY(result.mValues);
+    QVERIFY(result.mFindings.empty());
 }
 
 QTEST_APPLESS_MAIN(tst_springChecks)
