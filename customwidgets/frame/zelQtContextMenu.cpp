@@ -1,0 +1,12 @@
+#include "zelQtContextMenu.h"
+
+ZelQtContextMenu::ZelQtContextMenu(QWidget *parent)
+    : ZelQtMenu(parent)
+{
+}
+
+ZelQtContextMenu::~ZelQtContextMenu() = default;
+
+void ZelQtContextMenu::retranslateStrings()
+{
+}
