@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-/// The call of module functions by Meta::CallFunc: each parameter names a function, its value is the
-/// argument, and result i answers parameter i.
+/// The call of module functions by Meta::CallFunc: each parameter names a function, its value is
+/// the argument, and result i answers parameter i.
 class ZELMATH_EXPORT MetaParam
 {
 public:

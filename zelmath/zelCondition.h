@@ -16,8 +16,8 @@ class ZelUIVar;
 ///     or  and  not  == != < <= > >=  + - * /  ( )  number  'entry or text'  true  false
 ///     name  name[2]  set(x)  entered(x)  rows(table)
 ///
-/// It is type-checked when it is compiled; evaluating allocates nothing and cannot fail. Numbers count
-/// in default units. With an unset value or a division by 0 a comparison is false.
+/// It is type-checked when it is compiled; evaluating allocates nothing and cannot fail. Numbers
+/// count in default units. With an unset value or a division by 0 a comparison is false.
 class ZELMATH_EXPORT ZelCondition
 {
 public:

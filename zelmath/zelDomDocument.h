@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
-/// A description file as a tree of nodes. Reading checks the bytes and the XML: valid UTF-8, at most
-/// 4 MiB, at most 32 levels, one root, no attribute twice, no unknown entity. What stands before a
-/// syntax fault is kept, so that the rest of a mask can show.
+/// A description file as a tree of nodes. Reading checks the bytes and the XML: valid UTF-8, at
+/// most 4 MiB, at most 32 levels, one root, no attribute twice, no unknown entity. What stands
+/// before a syntax fault is kept, so that the rest of a mask can show.
 class ZELMATH_EXPORT ZelDomDocument
 {
 public:

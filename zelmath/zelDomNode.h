@@ -17,8 +17,8 @@ struct ZelPlace
 };
 
 /// One element of a mask description with its attributes, its text and its place in the file.
-/// Nodes are made by a ZelDomDocument, or by hand through addChild and setAttribute; a node owns its
-/// children.
+/// Nodes are made by a ZelDomDocument, or by hand through addChild and setAttribute; a node owns
+/// its children.
 class ZELMATH_EXPORT ZelDomNode
 {
 public:

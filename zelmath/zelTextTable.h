@@ -17,8 +17,8 @@ public:
     static ZelTextTable fromText(std::string_view bytes, const std::string &fileName,
                                  ZelFaultList &faults);
 
-    /// The text in a language; falls back to English, then to `german`. `key` is used when it is not
-    /// empty, else `german`.
+    /// The text in a language; falls back to English, then to `german`. `key` is used when it is
+    /// not empty, else `german`.
     zelWString text(const zelWString &german, const zelWString &key, ZelLanguage language) const;
     bool contains(const zelWString &germanOrKey) const;
     /// True when there is a text of its own for that language.

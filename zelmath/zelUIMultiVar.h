@@ -10,10 +10,13 @@ class ZELMATH_EXPORT ZelUIMultiVar : public ZelUIVar
 {
 public:
     /// Real number(s) for value kind 0, integers otherwise.
-    explicit ZelUIMultiVar(zelWString name,
-                           ZelDimensions::Unit defaultUnit = ZelDimensions::NoUnit,
+    explicit ZelUIMultiVar(zelWString name, ZelDimensions::Unit defaultUnit = ZelDimensions::NoUnit,
                            int componentCount = 1);
     ~ZelUIMultiVar() override;
+
+    // ZelUIVar
+    ZelVarStorage storage() const override;
+    double initialNumber(int component) const override;
 
     /// Unit of the stored values, the limits and the initial values.
     ZelDimensions::Unit mDefaultUnit = ZelDimensions::NoUnit;
@@ -24,7 +27,7 @@ public:
     bool mHasTop = false;
     double mBottom = 0;
     double mTop = 0;
-    std::array<double, 3> mInitial {};
+    std::array<double, 3> mInitial{};
     /// Step of a spin box.
     double mStep = 1;
 };

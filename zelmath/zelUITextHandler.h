@@ -8,8 +8,8 @@
 class ZelDomNode;
 class ZelTextTable;
 
-/// A text given by number of `pool`, by a description node, or as a literal German text. It is looked
-/// up anew at each call, so that it follows the language.
+/// A text given by number of `pool`, by a description node, or as a literal German text. It is
+/// looked up anew at each call, so that it follows the language.
 class ZELMATH_EXPORT ZelUITextHandler
 {
 public:

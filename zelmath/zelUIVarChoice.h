@@ -15,6 +15,8 @@ public:
 
     explicit ZelUIVarChoice(zelWString name);
     ~ZelUIVarChoice() override;
+    /// The initial alternative; the first one when none is given.
+    double initialNumber(int component) const override;
 
     bool contains(short alternative, const ZelUIVar *variable) const;
     /// True when some alternative holds the variable.

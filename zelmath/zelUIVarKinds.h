@@ -3,10 +3,11 @@
 #include "zelUIVar.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
-// The kinds of variables that are no numbers. They carry little more than their type, by which a mask
-// picks the element, so they stand together.
+// The kinds of variables that are no numbers. They carry little more than their type, by which a
+// mask picks the element, so they stand together.
 
 /// Yes or no.
 class ZELMATH_EXPORT ZelUIVarBool : public ZelUIVar
@@ -14,6 +15,7 @@ class ZELMATH_EXPORT ZelUIVarBool : public ZelUIVar
 public:
     explicit ZelUIVarBool(zelWString name);
     ~ZelUIVarBool() override;
+    double initialNumber(int component) const override;
     bool mInitial = false;
 };
 
@@ -23,6 +25,7 @@ class ZELMATH_EXPORT ZelUIVarString : public ZelUIVar
 public:
     explicit ZelUIVarString(zelWString name);
     ~ZelUIVarString() override;
+    const zelWString &initialText() const override;
     zelWString mInitial;
     ZelUITextHandler mPlaceholder;
 };
@@ -42,6 +45,7 @@ class ZELMATH_EXPORT ZelUIVarText : public ZelUIVar
 public:
     explicit ZelUIVarText(zelWString name);
     ~ZelUIVarText() override;
+    const zelWString &initialText() const override;
     zelWString mInitial;
 };
 
@@ -51,6 +55,7 @@ class ZELMATH_EXPORT ZelUIVarMultilineString : public ZelUIVar
 public:
     explicit ZelUIVarMultilineString(zelWString name);
     ~ZelUIVarMultilineString() override;
+    const zelWString &initialText() const override;
     zelWString mInitial;
 };
 
@@ -69,6 +74,7 @@ class ZELMATH_EXPORT ZelUIVarImage : public ZelUIVar
 public:
     explicit ZelUIVarImage(zelWString name);
     ~ZelUIVarImage() override;
+    const zelWString &initialText() const override;
     zelWString mInitial;
 };
 
@@ -88,6 +94,12 @@ class ZELMATH_EXPORT ZelUIVarList : public ZelUIVar
 public:
     explicit ZelUIVarList(zelWString name);
     ~ZelUIVarList() override;
+    // ZelUIVar
+    double initialNumber(int component) const override;
+    std::vector<zelWString> entryNames() const override;
+    std::optional<int64_t> entryId(const zelWString &name) const override;
+    zelWString entryName(int64_t id) const override;
+
     /// Null for a name that is no entry's.
     const ZelListEntry *entry(const zelWString &name) const;
     const ZelListEntry *entry(short id) const;
@@ -102,6 +114,7 @@ class ZELMATH_EXPORT ZelUIVarRealList : public ZelUIVar
 public:
     explicit ZelUIVarRealList(zelWString name);
     ~ZelUIVarRealList() override;
+    double initialNumber(int component) const override;
     std::vector<ZelListEntry> mEntries;
     double mInitial = 0;
 };
