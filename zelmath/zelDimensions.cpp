@@ -2,8 +2,8 @@
 
 #include "zelDimensionsTable_p.h"
 
-#include <algorithm>
 #include <array>
+#include <cmath>
 #include <string_view>
 #include <unordered_map>
 
@@ -68,26 +68,42 @@ static_assert(std::size(units) == unitCount && unitCount == ZelDimensions::Dynam
 static_assert(std::size(types) == typeCount && typeCount == ZelDimensions::NoType);
 static_assert(tableIsInOrder(), "a row is out of place, or a default is of another dimension");
 
-// From the greater unit to the smaller one: value * ratio + shift; the other way round:
-// (value - shift) / ratio. Both ways use the same two numbers, which keeps a round trip within 2
-// ulp, and where the ratio is exact (25.4, 1000), so is the result as far as a double can be.
+// From the greater unit to the smaller one by multiplication, the other way round by division. Both
+// ways use the same number, which keeps a round trip within 2 ulp, and where it is exact (25.4,
+// 1000), the result is the double next to the true one.
 struct Conversion
 {
     double mRatio = 1;
-    double mShift = 0;
     bool mMultiply = false;
+    bool mHasShift = false; // between scales of different zero
 };
 
 constexpr Conversion conversion(const UnitRow &from, const UnitRow &to)
 {
-    if (from.mFactor < to.mFactor) {
-        Conversion back = conversion(to, from);
-        back.mMultiply = false;
-        return back;
-    }
-    const long double ratio = from.mFactor / to.mFactor;
-    const long double shift = from.mOffset * ratio - to.mOffset;
-    return {static_cast<double>(ratio), static_cast<double>(shift), true};
+    const bool multiply = from.mFactor >= to.mFactor;
+    const long double ratio = multiply ? from.mFactor / to.mFactor : to.mFactor / from.mFactor;
+    return {static_cast<double>(ratio), multiply, from.mOffset != to.mOffset};
+}
+
+// A number of the greater degree is number * ratio + shift of the smaller one. By the definitions
+// of the scales all shifts are whole hundredths: 32, 273.15, 459.67.
+long double shiftBetween(const UnitRow &greater, const UnitRow &smaller)
+{
+    const long double ratio = greater.mFactor / smaller.mFactor;
+    return std::round(100 * (greater.mOffset * ratio - smaller.mOffset)) / 100;
+}
+
+// A number of one scale in another one. In double each step would show in the last digit: 37 °C are
+// 98.6 °F. Absolute zero, which is no double in °C and °F, must not end a trace above zero kelvin.
+double changeScale(double value, const UnitRow &from, const UnitRow &to)
+{
+    if (value == 0 - static_cast<double>(from.mOffset))
+        return 0 - static_cast<double>(to.mOffset);
+    const long double number = value;
+    return static_cast<double>(from.mFactor >= to.mFactor
+                                   ? number * (from.mFactor / to.mFactor) + shiftBetween(from, to)
+                                   : (number - shiftBetween(to, from))
+                                       / (to.mFactor / from.mFactor));
 }
 
 constexpr std::array<Conversion, conversionCount> makeConversions()
@@ -202,9 +218,7 @@ double ZelDimensions::changeUnit(double value, Unit from, Unit to)
     const int index =
         block.mConversions + (from - block.mFirst) * block.mCount + (to - block.mFirst);
     const Conversion &conversion = conversions[static_cast<size_t>(index)];
-    // A shift of zero would turn a negative zero into a positive one.
-    if (conversion.mShift == 0)
-        return conversion.mMultiply ? value * conversion.mRatio : value / conversion.mRatio;
-    return conversion.mMultiply ? value * conversion.mRatio + conversion.mShift
-                                : (value - conversion.mShift) / conversion.mRatio;
+    if (conversion.mHasShift)
+        return changeScale(value, units[from], units[to]);
+    return conversion.mMultiply ? value * conversion.mRatio : value / conversion.mRatio;
 }

@@ -322,6 +322,6 @@ public:
 
     /// `value` of unit `from` in unit `to`, unrounded. Between different dimensions, and where one
     /// is NoUnit or DynamicUnit, it stays as it is. There and back again changes it by 2 ulp at
-    /// most; the shift between temperature scales costs 2 ulp of the shift, too.
+    /// most; between temperature scales these are ulps of the value plus the distance of the zeros.
     static double changeUnit(double value, Unit from, Unit to);
 };
