@@ -1,0 +1,122 @@
+#include "zelQtUnitLabel.h"
+
+#include "zelQtContextMenu.h"
+#include "zelQtConversions.h"
+#include "zelQtLabelState_p.h"
+#include "zelQtWidgetHelpers_p.h"
+
+#include <QContextMenuEvent>
+
+#include <algorithm>
+
+ZelQtUnitLabel::ZelQtUnitLabel(QWidget *parent)
+    : ZelQtLabel(parent)
+{
+}
+
+ZelQtUnitLabel::ZelQtUnitLabel(const QString &unit, QWidget *parent)
+    : ZelQtLabel(parent)
+{
+    setCurrentUnit(unit, false);
+}
+
+ZelQtUnitLabel::~ZelQtUnitLabel() = default;
+
+QString ZelQtUnitLabel::currentUnit() const
+{
+    return toQString(getUnitString());
+}
+
+void ZelQtUnitLabel::setCurrentUnit(const QString &unit, bool flag)
+{
+    const ZelDimensions::Unit wanted = stringToUnit(unit);
+    if (wanted != mCurrentUnit)
+        setUnit(wanted, flag);
+}
+
+void ZelQtUnitLabel::checkUnit(const QString &unit, bool keep)
+{
+    checkUnit(stringToUnit(unit), keep);
+}
+
+void ZelQtUnitLabel::checkUnit(ZelDimensions::Unit unit, bool keep)
+{
+    setUnit(keep ? unit : ZelDimensions::defaultUnit(unit, true), false);
+}
+
+int ZelQtUnitLabel::absUnitWidth() const
+{
+    const std::vector<zelWString> units = getUnitStringList();
+    if (units.empty())
+        return plainTextWidth(currentUnit());
+    int width = 0;
+    for (const zelWString &unit : units)
+        width = std::max(width, plainTextWidth(toQString(unit)));
+    return width;
+}
+
+QSize ZelQtUnitLabel::sizeHint() const
+{
+    return QLabel::sizeHint();
+}
+
+void ZelQtUnitLabel::setup(ZelUIMultiVar *variable, AttrMap &attributes)
+{
+    ZelUIUnitLabel::setup(variable, attributes);
+    applyElementName(this, nullptr);
+    updateUnit();
+}
+
+bool ZelQtUnitLabel::setUnit(ZelDimensions::Unit unit, bool defaultToo)
+{
+    const QString oldUnit = currentUnit();
+    if (!ZelUIUnitLabel::setUnit(unit, defaultToo))
+        return false;
+    updateUnit();
+    const QString newUnit = currentUnit();
+    if (newUnit != oldUnit) {
+        Q_EMIT unitChanged(newUnit);
+        Q_EMIT unitChanged(oldUnit, newUnit);
+    }
+    return true;
+}
+
+void ZelQtUnitLabel::updateState(Meta *meta, int64_t id)
+{
+    updateLabelState(this, meta, id);
+}
+
+void ZelQtUnitLabel::setData(Meta *meta, int64_t id)
+{
+    ZelUIUnitLabel::setData(meta, id);
+    if (mDefaultUnit == ZelDimensions::DynamicUnit)
+        updateUnit();
+}
+
+void ZelQtUnitLabel::updateUnit()
+{
+    QLabel::setText(currentUnit());
+}
+
+void ZelQtUnitLabel::contextMenuEvent(QContextMenuEvent *event)
+{
+    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+    if (byMouse && mDefaultUnit != ZelDimensions::DynamicUnit)
+        execMenu(event->globalPos());
+    // The parent receives the event as well, whatever the menu did.
+    QWidget::contextMenuEvent(event);
+}
+
+void ZelQtUnitLabel::execMenu(const QPoint &globalPos)
+{
+    const std::vector<zelWString> units = getUnitStringList();
+    if (units.empty())
+        return;
+    ZelQtContextMenu menu(this);
+    for (const zelWString &unit : units)
+        menu.addAction(toQString(unit));
+    if (const QAction *chosen = menu.exec(globalPos)) {
+        setCurrentUnit(chosen->text(), false);
+        Q_EMIT changedByUser();
+    }
+}
