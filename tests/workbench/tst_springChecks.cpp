@@ -318,22 +318,38 @@ void tst_springChecks::valuesThatAreNotInUseAreNotChecked()
 
 void tst_springChecks::overflowIsAnError_data()
 {
-    QTest::addColumn<double>("size");
-    QTest::newRow("too large") << 1e100;
-    QTest::newRow("too small") << 1e-120;
+    QTest::addColumn<SpringInput>("input");
+    const auto row = [](const char *name, const Change &change) {
+        SpringInput input = s1;
+        change(input);
+        QTest::newRow(name) << input;
+    };
+    const auto scaled = [](double size) {
+        return [size](SpringInput &i) {
+            i.mWireDiameter *= size;
+            i.mCoilDiameter *= size;
+            i.mFreeLength *= size;
+            i.mFirstForce = i.mSecondForce = 0;
+        };
+    };
+    row("fourth power too large", scaled(1e100));
+    row("third power too small", scaled(1e-120));
+    row("second power too small", scaled(1e-170));
+    row("coil wider by one bit", [](SpringInput &i) {
+        i.mWireDiameter = 1.9999999999999996;
+        i.mCoilDiameter = std::nextafter(i.mWireDiameter, 3);
+        i.mCorrection = SpringCorrection::Wahl;
+    });
+    row("seating too small", [](SpringInput &i) { i.mSeating = 1e-310; });
+    row("rate too small", [](SpringInput &i) {
+        i.mMaterial = SpringMaterial{1e-307, 206000, 7.85, 1090};
+        i.mFirstForce = i.mSecondForce = 0;
+    });
 }
 
-// The same spring in a scale at which the fourth power of the wire leaves the range of numbers.
 void tst_springChecks::overflowIsAnError()
 {
-    QFETCH(double, size);
-    SpringInput input = s1;
-    input.mWireDiameter *= size;
-    input.mCoilDiameter *= size;
-    input.mFreeLength *= size;
-    input.mRange = SpringRange::Lengths;
-    input.mFirstLength = 100 * size;
-    input.mSecondLength = 80 * size;
+    QFETCH(SpringInput, input);
     const SpringResult result = calculateSpring(input);
     QVERIFY(!result.mValues);
     QVERIFY(hasCode(result, SpringMessage::OutOfNumberRange));

@@ -183,6 +183,26 @@ static void setFurther(SpringValues &values, const SpringInput &input)
     values.mOuterGrowth = 0.1 * (square(pitch) - 0.8 * pitch * wire - 0.2 * square(wire)) / coil;
 }
 
+// What the formulas divide by must not become 0 on the way: the powers of a tiny wire do, and the
+// index of a coil that is wider by one bit is 1, where Wahl's factor has its pole.
+static bool divisorsExist(const SpringInput &input)
+{
+    const double wire = input.mWireDiameter;
+    const double coil = input.mCoilDiameter;
+    return coil / wire > 1 && std::isnormal(cube(wire))
+        && std::isnormal(8 * cube(coil) * input.mActiveCoils)
+        && std::isnormal(input.mActiveCoils * square(coil))
+        && std::isnormal(input.mSeating * input.mFreeLength);
+}
+
+static std::vector<SpringFinding> outOfNumberRange()
+{
+    return {{SpringMessage::OutOfNumberRange,
+             SpringSeverity::Error,
+             {SpringField::WireDiameter, SpringField::CoilDiameter, SpringField::ActiveCoils,
+              SpringField::FreeLength}}};
+}
+
 SpringResult calculateSpring(const SpringInput &input)
 {
     SpringResult result;
@@ -194,8 +214,15 @@ SpringResult calculateSpring(const SpringInput &input)
     result.mFindings = checkMaterial(values);
     if (!result.mFindings.empty())
         return result;
+    if (!divisorsExist(input)) {
+        result.mFindings = outOfNumberRange();
+        return result;
+    }
     setGeometry(values, input);
     result.mFindings = checkSpringLengths(input, values);
+    if (result.mFindings.empty()
+        && !(std::isnormal(values.mRate) && std::isnormal(values.mSolid.mStress)))
+        result.mFindings = outOfNumberRange();
     if (!result.mFindings.empty())
         return result;
     setWorkingRange(values, input);
@@ -203,10 +230,7 @@ SpringResult calculateSpring(const SpringInput &input)
     setBuckling(values, input);
     setFurther(values, input);
     if (!springValuesFinite(values)) {
-        result.mFindings = {{SpringMessage::OutOfNumberRange,
-                             SpringSeverity::Error,
-                             {SpringField::WireDiameter, SpringField::CoilDiameter,
-                              SpringField::ActiveCoils, SpringField::FreeLength}}};
+        result.mFindings = outOfNumberRange();
         return result;
     }
     result.mFindings = springWarnings(input, values);
