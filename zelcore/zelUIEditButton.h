@@ -34,7 +34,17 @@ public:
     void getData(Meta *meta, int64_t id) override;
 
     ZelUIEditButtonType editType() const { return mEditType; }
+    /// What a variable asks for: a check box for an optional one, a radio button for a member of a
+    /// choice by switch, and of one by typing when its alternatives share no variable. LABEL stands
+    /// for no button at all.
+    static ZelUIEditButtonType modelTypeFor(const ZelUIVar &variable, const Meta &meta);
 
     bool mChecked = false;
     ZelUIEditButtonType mEditType = ZelUIEditButtonType::CHECKBOX;
+
+private:
+    bool storedState(const Meta &meta, int64_t id) const;
+    void writeState(Meta &meta, int64_t id) const;
+
+    bool mLoadedChecked = false;
 };

@@ -37,10 +37,13 @@ public:
     void getData(Meta *meta, int64_t id) override;
 
     zelWString getText() const { return mText.getText(); }
+    void setModelText(const ZelUITextHandler &text) { mText = text; }
 
     bool mChecked = false;
     ZelUIFlagType mFlagType = ZelUIFlagType::CheckBox;
 
 private:
     ZelUITextHandler mText;
+    const ZelUIVarBool *mBool = nullptr;
+    bool mLoadedChecked = false;
 };

@@ -30,6 +30,8 @@ public:
     /// The value as text, as it is shown.
     virtual zelWString getRenderedData();
 
+    void setData(Meta *meta, int64_t id) override;
+
     /// The value is shown in gray: another one of its choice is entered.
     bool mLowPriority = false;
     /// Not empty when the element takes part in a priority scheme: the name of the choice.
@@ -38,6 +40,9 @@ public:
 protected:
     /// Object of the last setData.
     int64_t mLastId = 0;
-    /// mPriorityName and mLowPriority for the variable, from meta.
+    /// mPriorityName and mLowPriority for the variable, from meta. Both stay as they are for a
+    /// variable that is in no choice by typing.
     void modelUpdatePriority(const Meta *meta, int64_t id);
+    /// mPriorityName during a build.
+    void modelTakePriorityName();
 };

@@ -15,7 +15,8 @@ public:
     /// Takes the value from meta. A null meta or an object without variable leaves it as it is.
     virtual void setData(Meta *meta, int64_t id);
     /// Writes the value to meta: only while enabled and not read-only, and only what differs bit
-    /// for bit.
+    /// for bit from meta and from what the last setData took: what the user left alone may have
+    /// been changed in another place of the mask.
     virtual void getData(Meta *meta, int64_t id);
 
     /// Component of the variable, from 0.
@@ -28,8 +29,13 @@ protected:
     void setModelKind(const wchar_t *kind) { mKind = kind; }
     /// True while getData may write: a meta, a variable, enabled and not read-only.
     bool modelMayWrite(const Meta *meta) const;
+    /// True when the last setData took the value of this object.
+    bool modelIsLoaded(const Meta *meta, int64_t id) const;
+    /// After a write by the user: a variable of a choice by typing picks its alternative.
+    void modelNoteTyped(Meta &meta, int64_t id) const;
 
 private:
-    int mComponent = 0;
+    const Meta *mLoadedMeta = nullptr;
+    int64_t mLoadedId = 0;
     const wchar_t *mKind = L"";
 };

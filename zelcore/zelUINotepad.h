@@ -18,4 +18,7 @@ public:
     void getData(Meta *meta, int64_t id) override;
 
     zelWString mText;
+
+private:
+    zelWString mLoadedText;
 };

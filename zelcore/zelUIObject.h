@@ -10,6 +10,7 @@
 
 class Meta;
 class ZelCondition;
+class ZelDomNode;
 class ZelUIVar;
 
 /// Root of the model classes: a node of a mask with its variable, its help code, its state and its
@@ -31,7 +32,8 @@ public:
     virtual void setup(ZelUIVar *variable);
     /// Computes mEnabled, mVisible and mReadOnly: the conditions of variable and node, and the
     /// state of the model parent (AND, OR for read-only); then does the same for all model
-    /// children. A null meta leaves the flags of this node as they are.
+    /// children. A null meta leaves the flags of this node as they are, and so does an object that
+    /// has neither variable nor conditions nor model parent.
     virtual void updateState(Meta *meta, int64_t id);
 
     /// Name of the variable, or of the node for an object without one.
@@ -46,6 +48,9 @@ public:
     /// Null takes the object out of the tree.
     void setModelParent(ZelUIObject *parent);
     void setModelName(const zelWString &name) { mName = name; }
+    /// Takes name (unless there is a variable), help code and conditions of a description node.
+    /// Conditions need a build under way; a bad one is reported there and counts as absent.
+    void modelSetupNode(const ZelDomNode *node);
 
     bool mEnabled = true;
     bool mVisible = true;
@@ -57,9 +62,17 @@ protected:
     /// Inputs follow the role of their variable: results and computed values are read-only, an
     /// unset result is disabled. Other parts of a line do not.
     void modelFollowRole(bool follow) { mFollowsRole = follow; }
+    /// For parts that show something computed, whatever their variable says.
+    void modelAlwaysReadOnly(bool readOnly) { mAlwaysReadOnly = readOnly; }
+
+    /// Component of the variable, from 0.
+    int mComponent = 0;
 
 private:
+    bool hasStateSource() const;
+    void computeState(const Meta &meta, int64_t id);
     void applyRole(const Meta &meta, int64_t id);
+    void takeAttributes(const AttrMap &attributes);
 
     zelWString mName;
     ZelUIVar *mVariable = nullptr;
@@ -70,4 +83,5 @@ private:
     std::shared_ptr<const ZelCondition> mReadOnlyIf;
     int mAuthorItCode = -1;
     bool mFollowsRole = false;
+    bool mAlwaysReadOnly = false;
 };

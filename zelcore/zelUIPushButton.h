@@ -98,6 +98,9 @@ protected:
     ZelUITextHandler mStatusTip;
 
 private:
+    static const wchar_t *kindName(ZelUIPushButtonType type);
+    void takeInfo(const AttrMap &attributes);
+
     ZelUIPushButtonType mType;
     ZelUICallFunc mFunction;
     std::vector<std::pair<ZelUITextHandler, ZelUICallFunc>> mMenu;

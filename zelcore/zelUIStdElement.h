@@ -1,5 +1,6 @@
 #pragma once
 
+#include "zelDimensions.h"
 #include "zelUIElement.h"
 
 class ZelUIEditButton;
@@ -32,6 +33,9 @@ public:
 
     /// Makes parts put in by hand known to the walks; the build calls it itself.
     void modelAdoptParts();
+    /// Shows all numbers of the line in `unit`, sets their limits again and remembers the unit in
+    /// the Meta of the last setData. The unit label calls it after it took the unit itself.
+    void modelSetUnit(ZelDimensions::Unit unit);
 
     ZelUITextLabel *mLabel = nullptr;
     ZelUIFormulaLabel *mFormulaLabel = nullptr;

@@ -29,6 +29,10 @@ public:
     zelWString mText;
 
 private:
+    zelWString storedText(Meta &meta, int64_t id) const;
+
     ZelUITextHandler mPlaceholder;
     zelWString mFunction;
+    zelWString mLoadedText;
+    bool mIsFunction = false;
 };

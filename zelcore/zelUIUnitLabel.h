@@ -17,11 +17,11 @@ public:
     virtual void setup(ZelUIMultiVar *variable, AttrMap &attributes);
     /// Shows `unit`; with `defaultToo` it becomes the default unit as well. In an element a unit of
     /// another dimension is refused with false; a known one reaches all inputs of the line, whose
-    /// limits are set again, and is remembered in the Meta of the last setData. Outside an element
-    /// every known unit is taken, and one of another dimension becomes the default unit too.
+    /// limits are set again, and is remembered in the Meta of the element's last setData. Outside
+    /// an element every known unit is taken, and one of another dimension becomes the default unit
+    /// too. NoUnit, the unit of an unknown text, is refused unless it is the current unit.
     virtual bool setUnit(ZelDimensions::Unit unit, bool defaultToo);
 
-    void updateState(Meta *meta, int64_t id) override;
     void setData(Meta *meta, int64_t id) override;
 
     zelWString getUnitString() const;
@@ -30,8 +30,6 @@ public:
 
     ZelDimensions::Unit mDefaultUnit = ZelDimensions::NoUnit;
     ZelDimensions::Unit mCurrentUnit = ZelDimensions::NoUnit;
-
-private:
-    Meta *mMeta = nullptr;
-    int64_t mId = 0;
+    /// What a label with the default unit DynamicUnit shows.
+    zelWString mDynamicText;
 };

@@ -51,4 +51,11 @@ public:
     /// 0 real number, otherwise integer; 2 also leaves the decimals of the field alone.
     int mValueKind = 0;
     short mDecimals = 4;
+
+private:
+    double storedValue(const Meta &meta, int64_t id) const;
+    void writeValue(Meta &meta, int64_t id);
+
+    ZelUIMultiVar *mNumber = nullptr;
+    double mLoadedValue = 0;
 };

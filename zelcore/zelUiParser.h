@@ -3,6 +3,8 @@
 #include "zelWString.h"
 #include "zelcore_export.h"
 
+#include <vector>
+
 class ZelDomNode;
 
 /// Questions to the attributes of a description that several widgets ask.
@@ -17,4 +19,8 @@ public:
                                      int &height);
     /// The attribute "frame" is true: a board with a frame is a group.
     static bool hasFrameAttribute(const ZelDomNode *node);
+    /// "true" and "1" are, anything else is not.
+    static bool isTrue(const zelWString &value);
+    /// The words of a list that is separated by blanks or commas.
+    static std::vector<zelWString> words(const zelWString &value);
 };
