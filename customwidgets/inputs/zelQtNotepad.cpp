@@ -1,0 +1,78 @@
+#include "zelQtNotepad.h"
+
+#include "zelQtConversions.h"
+#include "zelQtWidgetHelpers_p.h"
+
+ZelQtNotepad::ZelQtNotepad(QWidget *parent)
+    : QTextEdit(parent)
+{
+    setTabChangesFocus(true);
+    connect(this, &QTextEdit::textChanged, this, &ZelQtNotepad::emitValueChanged);
+}
+
+ZelQtNotepad::~ZelQtNotepad() = default;
+
+void ZelQtNotepad::setup(ZelUIVarMultilineString *variable, AttrMap &attributes)
+{
+    ZelUINotepad::setup(variable, attributes);
+    applyElementName(this, nullptr);
+    // The geometry attributes of a description have no effect here: a notepad fills what it gets.
+    setMinimumSize(100, 100);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void ZelQtNotepad::updateState(Meta *meta, int64_t id)
+{
+    ZelUINotepad::updateState(meta, id);
+    setEnabled(mEnabled);
+    setVisible(mVisible);
+    setReadOnly(mEnabled && mReadOnly);
+}
+
+void ZelQtNotepad::setData(Meta *meta, int64_t id)
+{
+    ZelUINotepad::setData(meta, id);
+    // Only a real change: textChanged reports an edit, and every refresh would be one.
+    const QString text = mEnabled ? toQString(mText) : QString();
+    if (text != toPlainText())
+        setText(text);
+    retranslate();
+}
+
+void ZelQtNotepad::getData(Meta *meta, int64_t id)
+{
+    mText = toPlainText().toStdWString();
+    ZelUINotepad::getData(meta, id);
+}
+
+void ZelQtNotepad::ensureValueConfirmed()
+{
+    emitValueConfirmed();
+}
+
+void ZelQtNotepad::needsToBeConfirmed()
+{
+    mNeedsConfirm = true;
+}
+
+void ZelQtNotepad::emitValueChanged()
+{
+    mNeedsConfirm = true;
+    notifyHostValueChanged(this);
+    Q_EMIT valueChanged();
+}
+
+void ZelQtNotepad::emitValueConfirmed()
+{
+    if (!mNeedsConfirm)
+        return;
+    mNeedsConfirm = false;
+    notifyHostValueConfirmed(this);
+    Q_EMIT valueConfirmed();
+}
+
+void ZelQtNotepad::focusOutEvent(QFocusEvent *event)
+{
+    emitValueConfirmed();
+    QTextEdit::focusOutEvent(event);
+}
