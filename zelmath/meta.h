@@ -30,12 +30,14 @@ struct ZelValueChange
     zelWString mOld;
     zelWString mNew;
     ZelOrigin mOrigin = ZelOrigin::User;
+    /// True when it was the check box of an optional variable that changed, not its value.
+    bool mOption = false;
 };
 
 /// The data of a calculation module: its variables and their values. A variable has a dense index,
 /// each object (gear 1, gear 2: the `id`) a row of slots; an object comes into being with the first
-/// write and reads as initial values before. Reading and writing look up no text. Numbers are stored
-/// in the variable's default unit.
+/// write and reads as initial values before. Reading and writing look up no text. Numbers are
+/// stored in the variable's default unit.
 ///
 /// Reading with a component, an id or a variable that isn't there gives 0, false or "".
 class ZELMATH_EXPORT Meta
@@ -54,8 +56,7 @@ public:
     /// Takes the variable; null when the name is taken.
     ZelUIVar *add(std::unique_ptr<ZelUIVar> variable);
     /// The same for one made in place: add<ZelUIMultiVar>(L"d", ZelDimensions::Millimetre).
-    template <class Variable, class... Args>
-    Variable *add(Args &&...args)
+    template <class Variable, class... Args> Variable *add(Args &&...args)
     {
         return static_cast<Variable *>(add(
             std::unique_ptr<ZelUIVar>(std::make_unique<Variable>(std::forward<Args>(args)...))));
@@ -74,12 +75,15 @@ public:
     void setModuleId(const zelWString &id) { mModuleId = id; }
     const zelWString &moduleId() const { return mModuleId; }
 
-    // Values
+    // Values. Real and whole numbers are read and written as each other, since value fields hold
+    // doubles: rounded half away from zero, saturated, and not at all for a NaN or infinity.
 
     double real(const ZelUIVar &variable, int64_t id, int component = 0) const;
     int64_t integer(const ZelUIVar &variable, int64_t id, int component = 0) const;
     bool boolean(const ZelUIVar &variable, int64_t id) const;
     zelWString text(const ZelUIVar &variable, int64_t id) const;
+    /// The same without a copy, valid until the next write.
+    std::wstring_view textView(const ZelUIVar &variable, int64_t id) const;
     /// False for a result that was not computed. Inputs are set from the start.
     bool isSet(const ZelUIVar &variable, int64_t id, int component = 0) const;
 
@@ -91,20 +95,23 @@ public:
                     ZelOrigin origin);
     void setBoolean(const ZelUIVar &variable, int64_t id, bool value, ZelOrigin origin);
     void setText(const ZelUIVar &variable, int64_t id, const zelWString &value, ZelOrigin origin);
+    /// All components; they read as the initial value then.
     void unset(const ZelUIVar &variable, int64_t id, ZelOrigin origin = ZelOrigin::Module);
     /// Unsets every variable with role result.
     void unsetResults(int64_t id);
-    /// Back to initial values; the observer hears each change with ZelOrigin::Load.
+    /// Back to initial values, results unset, options unchecked, messages gone; units stay. The
+    /// observer hears each change with ZelOrigin::Load, the choice observer nothing: there is
+    /// nothing to convert.
     void reset(int64_t id);
     /// The objects that hold values, in ascending order.
     std::vector<int64_t> objects() const;
 
     // What stands beside the value
 
-    /// The unit in which the user sees the variable; the default unit of the dimension in the current
-    /// unit system as long as nobody chose one.
+    /// The unit in which the user sees the variable; the default unit of the dimension in the
+    /// current unit system as long as nobody chose one.
     ZelDimensions::Unit currentUnit(const ZelUIVar &variable, int64_t id) const;
-    /// NoUnit forgets the choice.
+    /// NoUnit forgets the choice; a unit of another dimension changes nothing.
     void setCurrentUnit(const ZelUIVar &variable, int64_t id, ZelDimensions::Unit unit);
     /// True while the user enters the variable: always, but for results, for unchecked optional
     /// variables and for those of a choice that is set to another alternative.
@@ -119,8 +126,8 @@ public:
     const ZelUIVarChoice *choiceOf(const ZelUIVar &variable) const;
     /// Sets the alternative (1 and up); an unknown number changes nothing.
     void pick(const ZelUIVarChoice &choice, int64_t id, short alternative, ZelOrigin origin);
-    /// The user typed in a variable of a choice by typing: picks, among the alternatives that hold it,
-    /// the one whose other members were typed last.
+    /// The user typed in a variable of a choice by typing: picks, among the alternatives that hold
+    /// it, the one whose other members were typed last.
     void noteTyped(const ZelUIVar &variable, int64_t id);
     /// Called after an alternative was picked by anybody, with the former and the new one.
     using ChoiceObserver = std::function<void(const ZelUIVarChoice &, int64_t id, short former,
