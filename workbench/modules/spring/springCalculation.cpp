@@ -183,13 +183,13 @@ static void setFurther(SpringValues &values, const SpringInput &input)
     values.mOuterGrowth = 0.1 * (square(pitch) - 0.8 * pitch * wire - 0.2 * square(wire)) / coil;
 }
 
-// What the formulas divide by must not become 0 on the way: the powers of a tiny wire do, and the
-// index of a coil that is wider by one bit is 1, where Wahl's factor has its pole.
+// What the formulas divide by must not become 0 on the way, as the powers of a tiny wire do. The
+// index needs no look: a quotient of two different numbers never rounds to 1, the pole of Wahl's
+// factor.
 static bool divisorsExist(const SpringInput &input)
 {
-    const double wire = input.mWireDiameter;
     const double coil = input.mCoilDiameter;
-    return coil / wire > 1 && std::isnormal(cube(wire))
+    return std::isnormal(cube(input.mWireDiameter))
         && std::isnormal(8 * cube(coil) * input.mActiveCoils)
         && std::isnormal(input.mActiveCoils * square(coil))
         && std::isnormal(input.mSeating * input.mFreeLength);
