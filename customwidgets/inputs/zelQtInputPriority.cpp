@@ -1,0 +1,5 @@
+#include "zelQtInputPriority_p.h"
+
+void takeHighPriority(ZelQtValueEdit *)
+{
+}
