@@ -119,14 +119,11 @@ void ZelDomReader::addSyntaxFault(const pugi::xml_parse_result &result)
         std::min(static_cast<size_t>(std::max<ptrdiff_t>(result.offset, 0)), mSource.size());
     std::string expected;
     if (result.status == pugi::status_end_element_mismatch) {
-        // pugixml stands behind the first letter that differs, or at the end of the file.
+        // pugixml stands behind the letter that differs; where it is in no end tag, one is missing
+        // at the end of the file.
         const size_t tag = mSource.rfind("</", offset);
-        const bool atEnd = trimmed(std::string_view(mSource).substr(offset)).empty()
-            && mSource.find('>', std::min(tag, offset)) < offset;
-        if (atEnd)
-            offset = mSource.size();
-        else if (tag != std::string::npos)
-            offset = tag + 2;
+        const bool inTag = tag != std::string::npos && mSource.find('>', tag) >= offset;
+        offset = inTag ? tag + 2 : mSource.size();
         expected = "an end tag for each start tag";
     }
     add(ZelFaultCode::Syntax, offset, result.description(), std::move(expected));
