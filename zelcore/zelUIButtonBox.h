@@ -13,6 +13,7 @@ public:
     ~ZelUIButtonBox() override;
 
     using ZelUIElement::setup;
+    /// A button without variable is described by its node, which modelSetNode takes.
     void setup(ZelUIVar *variable, AttrMap &attributes) override;
     void modelMakeParts() override;
     void modelAdoptParts();

@@ -42,7 +42,8 @@ public:
     /// Makes an element for each node, adds it and ends with finishLayout().
     void setup(const ZelDomNode *node) override;
 
-    /// Tables, pictures, diagrams and pages of text; with `visibleOnly` only those that show.
+    /// Tables, pictures, diagrams, pages of text and expanding notepads; with `visibleOnly` only
+    /// those that show.
     virtual bool containsViews(bool visibleOnly) const;
     virtual bool containsExpandingViews(bool visibleOnly) const;
     /// The caller owns the result.
@@ -68,8 +69,16 @@ protected:
     int elemCount() const { return static_cast<int>(modelElements().size()); }
 
 private:
+    struct View
+    {
+        const ZelUIElement *mElement;
+        bool mExpanding;
+    };
+
     void takeElement(ZelUIElement *element);
+    bool containsView(bool expandingOnly, bool visibleOnly) const;
 
     std::vector<std::unique_ptr<ZelUIElement>> mOwned;
-    std::vector<ZelUIElement *> mViews;
+    std::vector<View> mViews;
+    friend class ZelUiColumnBuilder;
 };

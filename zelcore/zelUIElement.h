@@ -27,6 +27,9 @@ public:
     /// The caller owns the result.
     virtual ZelUIElementStruct *toElementStruct() const;
 
+    /// Takes the conditions of the element's node, and during a build its texts. The node need not
+    /// outlive the build.
+    void modelSetNode(const ZelDomNode *node);
     /// Makes the parts that were announced by the set-up and are still missing, through the factory
     /// of the build under way. Without one, and for parts put in by hand, it does nothing.
     virtual void modelMakeParts();
@@ -37,7 +40,9 @@ protected:
     void modelForget(ZelUIObject *child) override;
     /// Makes `item` a model child, and a part that setData and getData visit.
     void modelAddItem(ZelUIItem *item);
+    const ZelDomNode *modelNode() const { return mNode; }
 
 private:
+    const ZelDomNode *mNode = nullptr;
     std::vector<ZelUIItem *> mModelItems;
 };

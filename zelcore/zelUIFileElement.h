@@ -11,6 +11,8 @@ public:
     ZelUIFileElement();
     ~ZelUIFileElement() override;
 
+    void modelMakeParts() override;
+
     std::vector<ZelUIPushButton *> mFileButtons;
 
 protected:

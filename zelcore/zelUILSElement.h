@@ -13,6 +13,9 @@ public:
     ZelUILSElement();
     ~ZelUILSElement() override;
 
+    /// Makes parts put in by hand known to the walks.
+    void modelMakeParts() override;
+
     /// The number stands in the column of the icon buttons and not beside the list.
     bool hasAdvancedLayout() const { return mAdvancedLayout; }
 

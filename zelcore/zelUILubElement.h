@@ -13,6 +13,9 @@ public:
     ZelUILubElement();
     ~ZelUILubElement() override;
 
+    /// Makes parts put in by hand known to the walks.
+    void modelMakeParts() override;
+
     ZelUITextLabel *mLabel = nullptr;
     ZelUIComboBox *mCombo1 = nullptr;
     ZelUIPushButton *mButton1 = nullptr;

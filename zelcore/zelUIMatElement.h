@@ -13,6 +13,9 @@ public:
     ZelUIMatElement();
     ~ZelUIMatElement() override;
 
+    /// Makes parts put in by hand known to the walks.
+    void modelMakeParts() override;
+
     ZelUITextLabel *mLabel1 = nullptr;
     ZelUITextLabel *mLabel2 = nullptr;
     ZelUIComboBox *mCombo1 = nullptr;

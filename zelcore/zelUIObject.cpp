@@ -83,6 +83,13 @@ void ZelUIObject::modelSetupNode(const ZelDomNode *node)
     mReadOnlyIf = compileCondition(*node, L"readonly");
 }
 
+void ZelUIObject::modelShareConditions(const ZelUIObject &other)
+{
+    mEnabledIf = other.mEnabledIf;
+    mVisibleIf = other.mVisibleIf;
+    mReadOnlyIf = other.mReadOnlyIf;
+}
+
 void ZelUIObject::setModelParent(ZelUIObject *parent)
 {
     if (parent == mModelParent)

@@ -51,6 +51,8 @@ public:
     /// Takes name (unless there is a variable), help code and conditions of a description node.
     /// Conditions need a build under way; a bad one is reported there and counts as absent.
     void modelSetupNode(const ZelDomNode *node);
+    /// The conditions of another node of the same line, so that each is compiled once.
+    void modelShareConditions(const ZelUIObject &other);
 
     bool mEnabled = true;
     bool mVisible = true;

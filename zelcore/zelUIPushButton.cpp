@@ -19,7 +19,9 @@ void ZelUIPushButton::setup(ZelUIVar *variable, AttrMap &attributes)
         mIconOnly = true;
         setModelKind(kindName(mType));
     }
-    takeInfo(attributes);
+    // Attributes are those of the line, and all its buttons get them.
+    if (mType == ZelUIPushButtonType::Push || mType == ZelUIPushButtonType::Info)
+        takeInfo(attributes);
     if (const auto icon = attributes.find(L"icon"); icon != attributes.end())
         addIconFile(icon->second);
 }

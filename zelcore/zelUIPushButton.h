@@ -71,6 +71,8 @@ public:
     /// True once one of the three texts has been given.
     bool hasModelTexts() const;
     const ZelUICallFunc &modelFunction() const { return mFunction; }
+    void setModelFunction(const ZelUICallFunc &function) { mFunction = function; }
+    void setModelText(const ZelUITextHandler &text) { mButtonText = text; }
     const std::vector<std::pair<ZelUITextHandler, ZelUICallFunc>> &modelMenu() const
     {
         return mMenu;

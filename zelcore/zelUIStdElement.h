@@ -10,6 +10,8 @@ class ZelUISpacer;
 class ZelUIStdButtonBox;
 class ZelUITextLabel;
 class ZelUIUnitLabel;
+class ZelUIValueEdit;
+class ZelUiBuild;
 
 /// The ordinary line: label, symbol, one or more inputs, edit buttons, unit, icon buttons. Every
 /// part can be missing. Parts are not owned.
@@ -28,6 +30,8 @@ public:
 
     void modelMakeParts() override;
     void updateState(Meta *meta, int64_t id) override;
+    /// Before the parts are filled, the unit label takes the unit of the line's first number.
+    void setData(Meta *meta, int64_t id) override;
     void updateUnitSystem(bool keepDefault) override;
     void resetUnits(bool keepDefault) override;
 
@@ -50,5 +54,20 @@ protected:
 
 private:
     struct Announced;
+    struct Entry;
+
+    void announce(ZelUIVar *variable, const AttrMap &attributes, const ZelDomNode *node);
+    bool makeInputs(ZelUiBuild &build, Announced &announced);
+    void makeEditButtons(ZelUiBuild &build, const Announced &announced);
+    void makeLabels(ZelUiBuild &build, const Announced &announced);
+    void makeUnitLabel(ZelUiBuild &build, const Announced &announced);
+    void makeIconBox(ZelUiBuild &build, const Announced &announced);
+    bool hasVisibleInput() const;
+    void syncUnit(const Meta &meta, int64_t id);
+
     std::unique_ptr<Announced> mAnnounced;
+    std::vector<ZelUIValueEdit *> mNumbers;
+    Meta *mMeta = nullptr;
+    int64_t mId = 0;
+    bool mHidesWithInputs = false;
 };

@@ -15,6 +15,10 @@ public:
     ZelUITableElement();
     ~ZelUITableElement() override;
 
+    /// Makes parts put in by hand known to the walks.
+    void modelMakeParts() override;
+    void updateUnitSystem(bool keepDefault) override;
+
     ZelUITable *mTable = nullptr;
     ZelUIPushButton *mLeadingButton = nullptr;
     ZelUIFlag *mLeadingFlag = nullptr;

@@ -1,6 +1,7 @@
 #include "zelUITextEdit.h"
 
 #include "meta.h"
+#include "zelFunctionText_p.h"
 #include "zelUIVarKinds.h"
 
 ZelUITextEdit::ZelUITextEdit() = default;
@@ -26,11 +27,7 @@ void ZelUITextEdit::setup(ZelUIVarString *variable, AttrMap &attributes, int kin
 
 zelWString ZelUITextEdit::storedText(Meta &meta, int64_t id) const
 {
-    if (!mIsFunction)
-        return meta.text(*modelVariable(), id);
-    MetaParam call;
-    call.addParam(mFunction.data(), zelWString(std::to_wstring(id)));
-    return meta.CallFunc(call) ? call.getResultAsString(0) : zelWString();
+    return mIsFunction ? zelFunctionText(meta, mFunction, id) : meta.text(*modelVariable(), id);
 }
 
 void ZelUITextEdit::setData(Meta *meta, int64_t id)

@@ -21,7 +21,8 @@ public:
     using ZelUIContainer::setup;
     /// Builds the items by the factory of the build under way and adds each.
     void setup(const ZelDomNode *node) override;
-    /// Calls retranslate() of every descendant once. Nested pages walk their own.
+    /// Calls retranslate() of every descendant once. Nested pages walk their own, and buttons that
+    /// the model gives no text keep the fixed texts of their class.
     void retranslate() override;
     /// The caller owns the result.
     virtual ZelUILayoutStruct *toLayoutStruct() const;

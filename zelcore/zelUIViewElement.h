@@ -13,6 +13,9 @@ public:
 
     using ZelUIElement::setup;
     virtual void setup(const ZelDomNode *node);
-    /// True for a view that takes all the room it can get.
+    /// True for a view that takes all the room it can get; here when the node says so.
     virtual bool isExpanding() const;
+
+private:
+    bool mExpanding = false;
 };

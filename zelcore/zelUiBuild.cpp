@@ -1,5 +1,7 @@
 #include "zelUiBuild.h"
 
+#include "meta.h"
+
 namespace {
 
 ZelUiBuild *innermost = nullptr;
@@ -25,6 +27,16 @@ ZelUiBuild::~ZelUiBuild()
 ZelUiBuild *ZelUiBuild::current()
 {
     return innermost;
+}
+
+ZelUIVar *ZelUiBuild::variableOf(const ZelDomNode &node)
+{
+    const zelWString name = node.attribute(L"name");
+    ZelUIVar *variable = name.empty() ? nullptr : mMeta.variable(name);
+    if (!variable && !name.empty())
+        fault(ZelFaultCode::UnknownName, node.attributePlace(L"name"),
+              "unknown variable \"" + name.toUtf8() + "\"", "the name of a variable");
+    return variable;
 }
 
 void ZelUiBuild::fault(ZelFaultCode code, ZelPlace place, const std::string &text,

@@ -7,6 +7,7 @@
 #include <string>
 
 class Meta;
+class ZelUIVar;
 class ZelUiFactory;
 
 /// A build of a mask under way. It stands on the stack of whoever builds and is found by the set-up
@@ -24,6 +25,9 @@ public:
 
     Meta &meta() const { return mMeta; }
     ZelUiFactory &factory() const { return mFactory; }
+    /// The variable that the attribute "name" of a node names; null, with a fault at its place, for
+    /// an unknown name. A missing attribute is left to the check of the description.
+    ZelUIVar *variableOf(const ZelDomNode &node);
     void fault(ZelFaultCode code, ZelPlace place, const std::string &text,
                const std::string &expected = {});
 

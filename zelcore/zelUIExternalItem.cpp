@@ -1,0 +1,4 @@
+#include "zelUIExternalItem.h"
+
+ZelUIExternalItem::ZelUIExternalItem() = default;
+ZelUIExternalItem::~ZelUIExternalItem() = default;
