@@ -1,0 +1,10 @@
+#include "zelQtLayoutLine.h"
+
+ZelQtLayoutLine::ZelQtLayoutLine(QWidget *parent)
+    : QFrame(parent)
+{
+    setFrameShape(QFrame::VLine);
+    setFrameShadow(QFrame::Sunken);
+}
+
+ZelQtLayoutLine::~ZelQtLayoutLine() = default;
