@@ -16,8 +16,9 @@ class ZelUIVar;
 ///     or  and  not  == != < <= > >=  + - * /  ( )  number  'entry or text'  true  false
 ///     name  name[2]  set(x)  entered(x)  rows(table)
 ///
-/// It is type-checked when it is compiled; evaluating allocates nothing and cannot fail. Numbers
-/// count in default units. With an unset value or a division by 0 a comparison is false.
+/// A quote inside a text is written twice. It is type-checked when it is compiled; evaluating
+/// allocates nothing and cannot fail. Numbers count in default units. With an unset value or a
+/// division by 0 a comparison is false.
 class ZELMATH_EXPORT ZelCondition
 {
 public:
