@@ -49,7 +49,14 @@ ZelDomNode *ZelDomNode::firstChild(const zelWString &name) const
 ZelPlace ZelDomNode::attributePlace(const zelWString &name) const
 {
     const auto found = mAttributePlaces.find(name);
-    return found == mAttributePlaces.end() ? mPlace : found->second;
+    return found == mAttributePlaces.end() ? mPlace : found->second.first;
+}
+
+ZelPlace ZelDomNode::attributeValuePlace(const zelWString &name) const
+{
+    const auto found = mAttributePlaces.find(name);
+    const bool known = found != mAttributePlaces.end() && found->second.second.mLine > 0;
+    return known ? found->second.second : attributePlace(name);
 }
 
 ZelDomNode *ZelDomNode::addChild(zelWString name)
@@ -62,11 +69,12 @@ ZelDomNode *ZelDomNode::addChild(zelWString name)
     return mChildren.back().get();
 }
 
-void ZelDomNode::setAttribute(const zelWString &name, zelWString value, ZelPlace place)
+void ZelDomNode::setAttribute(const zelWString &name, zelWString value, ZelPlace place,
+                              ZelPlace valuePlace)
 {
     mAttributes[name] = std::move(value);
     if (place.mLine > 0)
-        mAttributePlaces[name] = place;
+        mAttributePlaces[name] = {place, valuePlace};
     else
         mAttributePlaces.erase(name);
 }
@@ -93,4 +101,21 @@ void ZelDomNode::removeChild(ZelDomNode *child)
     mChildren.erase(mChildren.begin() + static_cast<std::ptrdiff_t>(removed));
     for (size_t i = removed; i < mChildren.size(); ++i)
         mChildren[i]->mIndex = i;
+}
+
+void ZelDomNode::removeChildren(const std::function<bool(ZelDomNode &)> &leaves)
+{
+    // `leaves` may look at brothers, so nothing moves before it was asked about all.
+    std::vector<bool> leaving;
+    for (const auto &child : mChildren)
+        leaving.push_back(leaves(*child));
+    size_t kept = 0;
+    for (size_t i = 0; i < mChildren.size(); ++i) {
+        if (leaving[i])
+            continue;
+        std::swap(mChildren[kept], mChildren[i]);
+        mChildren[kept]->mIndex = kept;
+        ++kept;
+    }
+    mChildren.resize(kept);
 }

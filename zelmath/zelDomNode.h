@@ -3,7 +3,9 @@
 #include "zelWString.h"
 #include "zelmath_export.h"
 
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class ZelDomDocument;
@@ -46,12 +48,15 @@ public:
     ZelPlace place() const { return mPlace; }
     /// Place of an attribute's name; that of the tag for an attribute that isn't there.
     ZelPlace attributePlace(const zelWString &name) const;
+    /// Place of the first character of an attribute's value; that of the name when it isn't known.
+    ZelPlace attributeValuePlace(const zelWString &name) const;
 
     /// The translations of the file this node comes from; null without any.
     const std::shared_ptr<const ZelTextTable> &texts() const { return mTexts; }
 
     ZelDomNode *addChild(zelWString name);
-    void setAttribute(const zelWString &name, zelWString value, ZelPlace place = {});
+    void setAttribute(const zelWString &name, zelWString value, ZelPlace place = {},
+                      ZelPlace valuePlace = {});
     void setContent(zelWString content) { mContent = std::move(content); }
     void setPlace(ZelPlace place) { mPlace = place; }
     /// Also for all children that exist already.
@@ -59,12 +64,15 @@ public:
     void removeAttribute(const zelWString &name);
     /// Deletes the child with everything below it.
     void removeChild(ZelDomNode *child);
+    /// Deletes every child that `leaves` answers true for, which is asked in the order of the file.
+    void removeChildren(const std::function<bool(ZelDomNode &)> &leaves);
 
 private:
     zelWString mName;
     zelWString mContent;
     AttrMap mAttributes;
-    std::map<zelWString, ZelPlace> mAttributePlaces;
+    /// Of name and value.
+    std::map<zelWString, std::pair<ZelPlace, ZelPlace>> mAttributePlaces;
     ZelPlace mPlace;
     ZelDomNode *mParent = nullptr;
     size_t mIndex = 0;

@@ -179,13 +179,16 @@ void ZelDomReader::readAttributes(const pugi::xml_node &element, ZelDomNode &nod
             break;
         const Attribute &source = scanned[index++];
         const zelWString name = zelWString::fromUtf8(attribute.name());
-        if (node.hasAttribute(name))
+        if (node.hasAttribute(name)) {
             add(ZelFaultCode::DuplicateAttribute, source.mName,
                 "attribute \"" + std::string(attribute.name()) + "\" stands twice in <"
                     + element.name() + ">");
-        else
-            node.setAttribute(name, zelWString::fromUtf8(attribute.value()),
-                              mPlaces.place(source.mName));
+        } else {
+            // In this order: going back would read the file anew.
+            const ZelPlace place = mPlaces.place(source.mName);
+            const ZelPlace valuePlace = mPlaces.place(source.mValue);
+            node.setAttribute(name, zelWString::fromUtf8(attribute.value()), place, valuePlace);
+        }
         checkEntities(source.mValue, source.mEnd);
     }
 }
