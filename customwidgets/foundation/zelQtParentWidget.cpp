@@ -1,7 +1,5 @@
 #include "zelQtParentWidget.h"
 
-#include "zelQtCalcVarInput.h"
-#include "zelQtHostServices_p.h"
 #include "zelQtWidgetHelpers_p.h"
 
 #include <QKeyEvent>
@@ -19,9 +17,8 @@ ZelQtParentWidget::ZelQtParentWidget(int authorItCode, QWidget *parent)
 
 ZelQtParentWidget::~ZelQtParentWidget() = default;
 
-void ZelQtParentWidget::updateUnitSystem(bool keepDefault)
+void ZelQtParentWidget::updateUnitSystem(bool)
 {
-    updateLineUnits(this, keepDefault);
 }
 
 void ZelQtParentWidget::setAuthorItCodes()
@@ -30,12 +27,10 @@ void ZelQtParentWidget::setAuthorItCodes()
 
 void ZelQtParentWidget::resizeLayout()
 {
-    ZelQtCalcVarInput::checkSize(this);
 }
 
 void ZelQtParentWidget::retranslateStrings()
 {
-    retranslateLines(this);
 }
 
 void ZelQtParentWidget::keyPressEvent(QKeyEvent *event)
@@ -53,27 +48,6 @@ void ZelQtParentWidget::changeEvent(QEvent *event)
         resizeLayout();
     }
     QWidget::changeEvent(event);
-}
-
-void ZelQtParentWidget::alignLines()
-{
-    const ZelQtLayoutGuard guard(mAligning);
-    if (guard.isFirst())
-        resizeLayout();
-}
-
-void ZelQtParentWidget::showEvent(QShowEvent *event)
-{
-    alignLines();
-    if (!event->spontaneous())
-        resizeUnsizedWindow(this);
-    QWidget::showEvent(event);
-}
-
-void ZelQtParentWidget::resizeEvent(QResizeEvent *event)
-{
-    alignLines();
-    QWidget::resizeEvent(event);
 }
 
 void ZelQtParentWidget::emitValueChanged()
