@@ -1,8 +1,26 @@
 #include "zelQtParentDialog.h"
 
+#include "zelQtCalcVarInput.h"
+#include "zelQtHostServices_p.h"
 #include "zelQtWidgetHelpers_p.h"
 
+#include "zelQtDialogButtonBox.h"
+#include "zelQtLineEdit.h"
+#include "zelQtNotepad.h"
+
+#include <QApplication>
 #include <QKeyEvent>
+
+namespace {
+
+void reportIfPermitted(ZelQtParentDialog *dialog)
+{
+    const auto *box = dialog->findChild<ZelQtDialogButtonBox *>();
+    if (box && box->isReportPermitted())
+        dialog->createProtokoll();
+}
+
+} // namespace
 
 ZelQtParentDialog::ZelQtParentDialog(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags)
@@ -12,8 +30,9 @@ ZelQtParentDialog::ZelQtParentDialog(QWidget *parent, Qt::WindowFlags flags)
 
 ZelQtParentDialog::~ZelQtParentDialog() = default;
 
-void ZelQtParentDialog::updateUnitSystem(bool)
+void ZelQtParentDialog::updateUnitSystem(bool keepDefault)
 {
+    updateLineUnits(this, keepDefault);
 }
 
 void ZelQtParentDialog::calculate()
@@ -30,10 +49,12 @@ void ZelQtParentDialog::setAuthorItCodes()
 
 void ZelQtParentDialog::resizeLayout()
 {
+    ZelQtCalcVarInput::checkSize(this);
 }
 
 void ZelQtParentDialog::retranslateStrings()
 {
+    retranslateLines(this);
 }
 
 void ZelQtParentDialog::keyPressEvent(QKeyEvent *event)
@@ -44,6 +65,8 @@ void ZelQtParentDialog::keyPressEvent(QKeyEvent *event)
             Q_EMIT helpChanged(helpFileOfFocusWidget());
         else if (event->key() == Qt::Key_F5)
             calculate();
+        else if (event->key() == Qt::Key_F6)
+            reportIfPermitted(this);
     }
     QDialog::keyPressEvent(event);
 }
@@ -55,6 +78,42 @@ void ZelQtParentDialog::changeEvent(QEvent *event)
         resizeLayout();
     }
     QDialog::changeEvent(event);
+}
+
+void ZelQtParentDialog::alignLines()
+{
+    const ZelQtLayoutGuard guard(mAligning);
+    if (guard.isFirst())
+        resizeLayout();
+}
+
+void ZelQtParentDialog::showEvent(QShowEvent *event)
+{
+    alignLines();
+    if (!event->spontaneous())
+        resizeUnsizedWindow(this);
+    QDialog::showEvent(event);
+}
+
+void ZelQtParentDialog::resizeEvent(QResizeEvent *event)
+{
+    alignLines();
+    QDialog::resizeEvent(event);
+}
+
+void ZelQtParentDialog::mousePressEvent(QMouseEvent *event)
+{
+    if (auto *field = qobject_cast<ZelQtLineEdit *>(focusWidget()))
+        field->ensureValueConfirmed();
+    else if (auto *notepad = qobject_cast<ZelQtNotepad *>(QApplication::focusWidget()))
+        notepad->ensureValueConfirmed();
+    QWidget::mousePressEvent(event);
+}
+
+void ZelQtParentDialog::setupDialogButtonBox()
+{
+    if (const auto *box = findChild<ZelQtDialogButtonBox *>())
+        box->setupConnections(this);
 }
 
 void ZelQtParentDialog::emitValueChanged()

@@ -21,6 +21,10 @@ public:
     /// those of their variables.
     virtual void updateUnitSystem(bool keepDefault);
 
+    /// Wires the first ZelQtDialogButtonBox below the dialog: accept, reject, calculate, report,
+    /// and this dialog's valueChanged() to its forbidAccept(). To be called once the form is built.
+    void setupDialogButtonBox();
+
 Q_SIGNALS:
     /// A value of the mask changed by the user; editing may go on. Raised before the signal of the
     /// widget itself.
@@ -57,4 +61,13 @@ protected:
 
     void keyPressEvent(QKeyEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    /// A click on the free surface commits the edit under way, since a field keeps its focus then.
+    void mousePressEvent(QMouseEvent *event) override;
+
+private:
+    void alignLines();
+
+    bool mAligning = false;
 };

@@ -1,5 +1,7 @@
 #include "zelQtParentWidget.h"
 
+#include "zelQtCalcVarInput.h"
+#include "zelQtHostServices_p.h"
 #include "zelQtWidgetHelpers_p.h"
 
 #include <QKeyEvent>
@@ -17,8 +19,9 @@ ZelQtParentWidget::ZelQtParentWidget(int authorItCode, QWidget *parent)
 
 ZelQtParentWidget::~ZelQtParentWidget() = default;
 
-void ZelQtParentWidget::updateUnitSystem(bool)
+void ZelQtParentWidget::updateUnitSystem(bool keepDefault)
 {
+    updateLineUnits(this, keepDefault);
 }
 
 void ZelQtParentWidget::setAuthorItCodes()
@@ -27,10 +30,12 @@ void ZelQtParentWidget::setAuthorItCodes()
 
 void ZelQtParentWidget::resizeLayout()
 {
+    ZelQtCalcVarInput::checkSize(this);
 }
 
 void ZelQtParentWidget::retranslateStrings()
 {
+    retranslateLines(this);
 }
 
 void ZelQtParentWidget::keyPressEvent(QKeyEvent *event)
@@ -48,6 +53,27 @@ void ZelQtParentWidget::changeEvent(QEvent *event)
         resizeLayout();
     }
     QWidget::changeEvent(event);
+}
+
+void ZelQtParentWidget::alignLines()
+{
+    const ZelQtLayoutGuard guard(mAligning);
+    if (guard.isFirst())
+        resizeLayout();
+}
+
+void ZelQtParentWidget::showEvent(QShowEvent *event)
+{
+    alignLines();
+    if (!event->spontaneous())
+        resizeUnsizedWindow(this);
+    QWidget::showEvent(event);
+}
+
+void ZelQtParentWidget::resizeEvent(QResizeEvent *event)
+{
+    alignLines();
+    QWidget::resizeEvent(event);
 }
 
 void ZelQtParentWidget::emitValueChanged()

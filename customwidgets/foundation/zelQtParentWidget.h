@@ -54,4 +54,11 @@ protected:
 
     void keyPressEvent(QKeyEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void alignLines();
+
+    bool mAligning = false;
 };
