@@ -29,6 +29,19 @@ std::string withUnit(std::string number, const ZelUIVar &variable)
     return unit.empty() ? number : number + ' ' + zelWString(unit).toUtf8();
 }
 
+std::string place(const ZelUIVar &variable, int component)
+{
+    std::string text = variable.name().toUtf8();
+    if (component > 0)
+        text += '[' + std::to_string(component + 1) + ']';
+    return text;
+}
+
+std::string atObject(int64_t id)
+{
+    return id == 0 ? "" : '@' + std::to_string(id);
+}
+
 } // namespace
 
 std::string zelNumberText(double value)
@@ -58,4 +71,28 @@ std::string zelValueText(const Meta &meta, const ZelUIVar &variable, int64_t id,
         break;
     }
     return {};
+}
+
+std::string zelWriteValues(const Meta &meta, bool withResults)
+{
+    std::vector<int64_t> ids = meta.objects();
+    // A store that nobody wrote to still has values, the initial ones.
+    if (ids.empty())
+        ids.push_back(0);
+    std::string text;
+    for (const int64_t id : ids) {
+        for (const auto &variable : meta.variables()) {
+            if (variable->storage() == ZelVarStorage::None || (variable->mResult && !withResults))
+                continue;
+            if (variable->mOptional && !variable->mResult)
+                text += "entered(" + variable->name().toUtf8() + ')' + atObject(id) + " = "
+                    + (meta.isOptionChecked(*variable, id) ? "true\n" : "false\n");
+            for (int component = 0; component < variable->componentCount(); ++component) {
+                const std::string value = zelValueText(meta, *variable, id, component);
+                if (!value.empty())
+                    text += place(*variable, component) + atObject(id) + " = " + value + '\n';
+            }
+        }
+    }
+    return text;
 }
