@@ -103,7 +103,7 @@ private:
     void readValue(const ZelUIVar &variable, int component, int64_t id);
     void readReal(const ZelUIVar &variable, int component, int64_t id);
     void readInteger(const ZelUIVar &variable, int component, int64_t id);
-    void readEntry(const ZelUIVar &variable, int64_t id);
+    void readEntry(const ZelUIVar &variable, int component, int64_t id);
     ZelDimensions::Unit readUnit(const ZelUIVar &variable);
     bool readFlag();
     zelWString readText();
@@ -280,7 +280,7 @@ void ValueReader::readValue(const ZelUIVar &variable, int component, int64_t id)
         if (dynamic_cast<const ZelUIMultiVar *>(&variable))
             readInteger(variable, component, id);
         else
-            readEntry(variable, id);
+            readEntry(variable, component, id);
         break;
     case ZelVarStorage::Boolean:
         mMeta.setBoolean(variable, id, readFlag(), mOrigin);
@@ -351,7 +351,7 @@ ZelDimensions::Unit ValueReader::readUnit(const ZelUIVar &variable)
     return unit;
 }
 
-void ValueReader::readEntry(const ZelUIVar &variable, int64_t id)
+void ValueReader::readEntry(const ZelUIVar &variable, int component, int64_t id)
 {
     std::optional<int64_t> entry = variable.entryId(zelWString::fromUtf8(mRest));
     if (!entry)
@@ -362,7 +362,7 @@ void ValueReader::readEntry(const ZelUIVar &variable, int64_t id)
              "this is no entry of " + variable.name().toUtf8(),
              names.empty() ? "the number of an entry" : joined(names));
     }
-    mMeta.setInteger(variable, id, 0, *entry, mOrigin);
+    mMeta.setInteger(variable, id, component, *entry, mOrigin);
 }
 
 bool ValueReader::readFlag()

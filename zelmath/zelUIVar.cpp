@@ -23,17 +23,22 @@ const zelWString &ZelUIVar::initialText() const
     return none;
 }
 
+// What a table of the database holds is not known here; its own entry is there whatever it holds.
+
 std::vector<zelWString> ZelUIVar::entryNames() const
 {
-    return {};
+    const zelWString own = entryName(0);
+    return own.empty() ? std::vector<zelWString>() : std::vector<zelWString>{own};
 }
 
-std::optional<int64_t> ZelUIVar::entryId(const zelWString &) const
+std::optional<int64_t> ZelUIVar::entryId(const zelWString &name) const
 {
-    return std::nullopt;
+    const bool own = !name.empty() && name == entryName(0);
+    return own ? std::optional<int64_t>(0) : std::nullopt;
 }
 
-zelWString ZelUIVar::entryName(int64_t) const
+zelWString ZelUIVar::entryName(int64_t id) const
 {
-    return {};
+    const ZelUITextHandler *own = id == 0 ? ownEntry() : nullptr;
+    return own && !own->empty() ? L"own" : L"";
 }

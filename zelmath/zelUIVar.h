@@ -66,6 +66,10 @@ public:
     std::shared_ptr<const ZelCondition> mVisibleIf;
     std::shared_ptr<const ZelCondition> mReadOnlyIf;
 
+protected:
+    /// Text of the entry "own" with id 0, for lists of the database that may have one.
+    virtual const ZelUITextHandler *ownEntry() const { return nullptr; }
+
 private:
     friend class Meta;
     zelWString mName;

@@ -56,6 +56,9 @@ public:
     /// Text of the entry with id 0, "own values"; no such entry when it is empty.
     ZelUITextHandler mOwn;
     short mInitial = 0;
+
+protected:
+    const ZelUITextHandler *ownEntry() const override { return &mOwn; }
 };
 
 /// The same, but only the ids that a function yields: result 0, separated by blanks.
@@ -71,6 +74,9 @@ public:
     zelWString mFunction;
     ZelUITextHandler mOwn;
     short mInitial = 0;
+
+protected:
+    const ZelUITextHandler *ownEntry() const override { return &mOwn; }
 };
 
 /// A material of the database; the value is its id.
@@ -84,6 +90,9 @@ public:
     std::vector<short> mTypes;
     ZelUITextHandler mOwn;
     short mInitial = 0;
+
+protected:
+    const ZelUITextHandler *ownEntry() const override { return &mOwn; }
 };
 
 /// A lubricant of the database; the value is its id.
@@ -95,6 +104,9 @@ public:
     double initialNumber(int component) const override;
     ZelUITextHandler mOwn;
     short mInitial = 0;
+
+protected:
+    const ZelUITextHandler *ownEntry() const override { return &mOwn; }
 };
 
 /// An entry of a list with a stepped number behind it, a preferred size with its class for example.

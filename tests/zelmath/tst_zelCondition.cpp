@@ -3,6 +3,7 @@
 #include "zelUIMultiVar.h"
 #include "zelUIVarChoice.h"
 #include "zelUIVarKinds.h"
+#include "zelUIVarLists.h"
 
 #include <QtTest>
 #include <cstdlib>
@@ -103,6 +104,7 @@ private slots:
     void operandsStandOnceEach();
     void tablesHaveNoRowsYet();
     void choiceComparesWithItsAlternatives();
+    void listOfTheDatabaseComparesWithItsOwnEntry();
     void evaluatingAllocatesNothing();
     void nestingHasALimit_data();
     void nestingHasALimit();
@@ -428,6 +430,26 @@ void tst_zelCondition::choiceComparesWithItsAlternatives()
     QVERIFY(!condition->evaluate(bearing.mMeta, 0));
     bearing.mMeta.pick(*choice, 0, 2, ZelOrigin::User);
     QVERIFY(condition->evaluate(bearing.mMeta, 0));
+}
+
+void tst_zelCondition::listOfTheDatabaseComparesWithItsOwnEntry()
+{
+    Bearing bearing;
+    auto *list = bearing.mMeta.add<ZelUIVarDBList>(L"bearing");
+    list->mOwn.setText(L"eigene Werte");
+    auto *other = bearing.mMeta.add<ZelUIVarDBList>(L"wire");
+    other->mInitial = 7;
+    const auto condition = bearing.compile("bearing != 'own'");
+    QVERIFY(condition);
+    QVERIFY(!condition->evaluate(bearing.mMeta, 0));
+    bearing.mMeta.setInteger(*list, 0, 0, 12, ZelOrigin::User);
+    QVERIFY(condition->evaluate(bearing.mMeta, 0));
+    ZelCondition::Fault fault;
+    QVERIFY(!bearing.compile("bearing == '6204'", &fault));
+    QCOMPARE(QString::fromStdString(fault.mExpected), QString("own"));
+    // Without names the id is all there is to compare.
+    const auto byId = bearing.compile("wire == 7");
+    QVERIFY(byId && byId->evaluate(bearing.mMeta, 0));
 }
 
 void tst_zelCondition::evaluatingAllocatesNothing()

@@ -3,6 +3,7 @@
 #include "zelUIMultiVar.h"
 #include "zelUIVarChoice.h"
 #include "zelUIVarKinds.h"
+#include "zelUIVarLists.h"
 
 #include <QtTest>
 #include <bit>
@@ -83,6 +84,7 @@ private slots:
     void readingTellsTheObserverWithTheOrigin();
     void readingAChoicePicks();
     void commentsAndEmptyLinesCountForNothing();
+    void listsOfTheDatabaseStandByNumber();
     void lastLineOfAValueHolds();
     void faultsHaveCodeAndPlace_data();
     void faultsHaveCodeAndPlace();
@@ -318,6 +320,25 @@ void tst_zelTextForm::commentsAndEmptyLinesCountForNothing()
     QCOMPARE(faultPlaces(faults), QStringList());
     QCOMPARE(spring.mMeta.real(*spring.mD, 0), 5.0);
     QCOMPARE(spring.read(""), 0);
+}
+
+void tst_zelTextForm::listsOfTheDatabaseStandByNumber()
+{
+    Spring spring;
+    auto *wire = spring.mMeta.add<ZelUIVarDBList>(L"wire");
+    wire->mOwn.setText(L"eigene Werte");
+    auto *size = spring.mMeta.add<ZelUIVarLS>(L"size");
+    QVERIFY(spring.written().endsWith("wire = own\nsize = 0\nsize[2] = 0\n"));
+    ZelFaultList faults;
+    QCOMPARE(spring.read("wire = 12\nsize = 3\nsize[2] = 40\n", &faults), 3);
+    QCOMPARE(faultPlaces(faults), QStringList());
+    QCOMPARE(spring.mMeta.integer(*wire, 0), int64_t(12));
+    QCOMPARE(spring.mMeta.integer(*size, 0, 0), int64_t(3));
+    QCOMPARE(spring.mMeta.integer(*size, 0, 1), int64_t(40));
+    spring.read("wire = own", &faults);
+    QCOMPARE(spring.mMeta.integer(*wire, 0), int64_t(0));
+    spring.read("wire = 6204a", &faults);
+    QCOMPARE(faultPlaces(faults), QStringList("1:8 BadValue"));
 }
 
 void tst_zelTextForm::lastLineOfAValueHolds()

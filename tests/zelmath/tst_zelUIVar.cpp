@@ -2,6 +2,7 @@
 #include "zelUIMultiVar.h"
 #include "zelUIVarChoice.h"
 #include "zelUIVarKinds.h"
+#include "zelUIVarLists.h"
 
 #include <QtTest>
 
@@ -31,6 +32,7 @@ private slots:
     void initialTexts();
     void listFindsEntriesByNameAndId();
     void idBeyondSixteenBitsIsNoEntry();
+    void listOfTheDatabaseNamesItsOwnEntry();
     void choiceKnowsItsMembers();
     void choiceWithASharedVariableIsNotDisjoint();
     void choiceStartsWithItsFirstAlternative();
@@ -149,6 +151,27 @@ void tst_zelUIVar::idBeyondSixteenBitsIsNoEntry()
     QVERIFY(list.entryName(1) == L"grease");
     QVERIFY(list.entryName(65537).empty());
     QVERIFY(list.entryName(-70000).empty());
+}
+
+void tst_zelUIVar::listOfTheDatabaseNamesItsOwnEntry()
+{
+    ZelUIVarDBList bearing(L"bearing");
+    ZelUIVarDBFuncList wire(L"wire");
+    ZelUIVarMatList material(L"material");
+    ZelUIVarLubList lubricant(L"lubricant");
+    const auto check = [](auto &list) {
+        const ZelUIVar &variable = list;
+        const bool without = variable.entryNames().empty() && !variable.entryId(L"own")
+            && !variable.entryId(L"") && variable.entryName(0).empty();
+        list.mOwn.setText(L"eigene Werte");
+        return without && variable.entryNames() == std::vector<zelWString>{L"own"}
+        && variable.entryId(L"own") == int64_t(0) && !variable.entryId(L"6204")
+            && variable.entryName(0) == L"own" && variable.entryName(1).empty();
+    };
+    QVERIFY(check(bearing));
+    QVERIFY(check(wire));
+    QVERIFY(check(material));
+    QVERIFY(check(lubricant));
 }
 
 void tst_zelUIVar::choiceKnowsItsMembers()
