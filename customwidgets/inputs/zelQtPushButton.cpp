@@ -57,6 +57,21 @@ void ZelQtPushButton::retranslate()
 {
     setText(toQString(buttonText()));
     applyButtonTips(this);
+    retranslateMenu();
+}
+
+void ZelQtPushButton::retranslateMenu()
+{
+    if (!menu())
+        return;
+    // Entries of the model alone: the owner may have put others behind them.
+    const QList<QAction *> actions = menu()->actions();
+    int index = 0;
+    for (const auto &entry : modelMenu()) {
+        if (index < actions.size())
+            actions[index]->setText(toQString(entry.first.getText()));
+        ++index;
+    }
 }
 
 void ZelQtPushButton::addMenuItem(const ZelUITextHandler &text, const ZelUICallFunc &function)

@@ -29,4 +29,7 @@ public:
     void retranslate() override;
     /// The whatsThis of the menu's action is the index of the entry, from 0, in decimal.
     void addMenuItem(const ZelUITextHandler &text, const ZelUICallFunc &function) override;
+
+private:
+    void retranslateMenu();
 };
