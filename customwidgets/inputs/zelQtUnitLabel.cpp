@@ -89,8 +89,9 @@ void ZelQtUnitLabel::updateState(Meta *meta, int64_t id)
 void ZelQtUnitLabel::setData(Meta *meta, int64_t id)
 {
     ZelUIUnitLabel::setData(meta, id);
-    if (mDefaultUnit == ZelDimensions::DynamicUnit)
-        updateUnit();
+    // Not only for a dynamic unit: the model takes the unit that the user chose earlier from meta.
+    // A fresh mask, or another object, may show another one. Silent, like every refresh.
+    updateUnit();
 }
 
 void ZelQtUnitLabel::updateUnit()

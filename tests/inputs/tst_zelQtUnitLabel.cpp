@@ -1,0 +1,504 @@
+#include "zelQtUnitLabel.h"
+
+#include "meta.h"
+#include "modal.h"
+#include "recorder.h"
+#include "tarvexModule.h"
+#include "zelQtContextMenu.h"
+#include "zelUIMultiVar.h"
+#include "zelUIStdElement.h"
+
+#include <QContextMenuEvent>
+#include <QtTest>
+
+#include <algorithm>
+
+namespace {
+
+// Tells by which event its context menu was asked for.
+class Page : public QWidget
+{
+public:
+    int mContextMenus = 0;
+
+protected:
+    void contextMenuEvent(QContextMenuEvent *) override { ++mContextMenus; }
+};
+
+// Counts the calls of the virtual operation.
+class CountingLabel : public ZelQtUnitLabel
+{
+public:
+    bool setUnit(ZelDimensions::Unit unit, bool defaultToo) override
+    {
+        mFlags.append(defaultToo);
+        return ZelQtUnitLabel::setUnit(unit, defaultToo);
+    }
+    QList<bool> mFlags;
+};
+
+void recordAll(EventRecorder &recorder, ZelQtUnitLabel &label)
+{
+    recorder.recordArguments(&label, qOverload<QString>(&ZelQtUnitLabel::unitChanged),
+                             QStringLiteral("unitChanged"));
+    recorder.recordArguments(&label, qOverload<QString, QString>(&ZelQtUnitLabel::unitChanged),
+                             QStringLiteral("unitChanged"));
+    recorder.record(&label, &ZelQtUnitLabel::changedByUser, QStringLiteral("changedByUser"));
+}
+
+void rightClick(QWidget *widget, QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse)
+{
+    QContextMenuEvent event(reason, QPoint(1, 1), widget->mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(widget, &event);
+}
+
+QStringList texts(const QMenu *menu)
+{
+    QStringList texts;
+    const QList<QAction *> actions = menu->actions();
+    for (const QAction *action : actions)
+        texts.append(action->text());
+    return texts;
+}
+
+void choose(QMenu *menu, const QString &unit)
+{
+    const QList<QAction *> actions = menu->actions();
+    for (QAction *action : actions) {
+        if (action->text() == unit)
+            QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                              menu->actionGeometry(action).center());
+    }
+}
+
+QStringList unitsOf(ZelDimensions::Unit unit)
+{
+    QStringList list;
+    for (const std::wstring &text : ZelDimensions::getStringList(ZelDimensions::getType(unit)))
+        list.append(QString::fromStdWString(text));
+    return list;
+}
+
+} // namespace
+
+class tst_zelQtUnitLabel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void freshLabelHasNoUnit();
+    void unitOfTheConstructor();
+    void isAsHighAsQLabelOnPurpose();
+    void setUnitTellsTheNewUnitThenBoth();
+    void setUnitOfTheSameTextTellsNothing();
+    void refusedUnitTellsNothing();
+    void unknownUnitTextChangesNothing();
+    void setCurrentUnitOfTheCurrentUnitDoesNothing();
+    void setCurrentUnitPassesTheFlagOn();
+    void flagMakesItTheDefaultUnitToo();
+    void propertyReadsAndWritesTheUnit();
+    void checkUnitKeepsOrTakesTheDefault_data();
+    void checkUnitKeepsOrTakesTheDefault();
+    void setupShowsTheUnitOfTheVariable();
+    void setDataShowsADynamicUnit();
+    void setDataShowsTheUnitChosenEarlierSilently();
+    void widthForEveryUnitOfTheDimension();
+    void widthWithoutUnitIsZero();
+    void widthOfADynamicUnitIsThatOfItsText();
+    void modelHidesButNeverDisables();
+    void menuListsTheDimensionInOrder();
+    void everyDimensionHasAMenu_data();
+    void everyDimensionHasAMenu();
+    void choosingTellsTheChangeBeforeTheUser();
+    void choosingTheCurrentUnitTellsTheUserAloneOnPurpose();
+    void choosingByKeys();
+    void leavingTheMenuTellsNothing();
+    void chosenUnitReachesTheModelWithFlagFalse();
+    void labelWithoutUnitShowsNoMenu();
+    void dynamicUnitShowsNoMenu();
+    void keyboardShowsNoMenu();
+    void parentReceivesTheEventInEveryCase();
+};
+
+void tst_zelQtUnitLabel::cleanup()
+{
+    TarvexModule::Setup = nullptr;
+}
+
+void tst_zelQtUnitLabel::freshLabelHasNoUnit()
+{
+    const ZelQtUnitLabel label;
+    QCOMPARE(label.currentUnit(), QString());
+    QCOMPARE(label.text(), QString());
+    QCOMPARE(label.mCurrentUnit, ZelDimensions::NoUnit);
+    QCOMPARE(label.mDefaultUnit, ZelDimensions::NoUnit);
+}
+
+void tst_zelQtUnitLabel::unitOfTheConstructor()
+{
+    const ZelQtUnitLabel label(QStringLiteral("kN"));
+    QCOMPARE(label.currentUnit(), QStringLiteral("kN"));
+    QCOMPARE(label.text(), QStringLiteral("kN"));
+    QCOMPARE(label.mCurrentUnit, ZelDimensions::Kilonewton);
+}
+
+void tst_zelQtUnitLabel::isAsHighAsQLabelOnPurpose()
+{
+    const ZelQtUnitLabel label(QStringLiteral("kN"));
+    QCOMPARE(label.sizeHint(), label.QLabel::sizeHint());
+    QVERIFY(label.sizeHint().height() != label.ZelQtLabel::sizeHint().height());
+}
+
+void tst_zelQtUnitLabel::setUnitTellsTheNewUnitThenBoth()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    EventRecorder recorder;
+    recordAll(recorder, label);
+    QVERIFY(label.setUnit(ZelDimensions::Centimetre, false));
+    QCOMPARE(
+        recorder.take(),
+        QStringList({QStringLiteral("unitChanged(cm)"), QStringLiteral("unitChanged(mm, cm)")}));
+    QCOMPARE(label.text(), QStringLiteral("cm"));
+}
+
+void tst_zelQtUnitLabel::setUnitOfTheSameTextTellsNothing()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    EventRecorder recorder;
+    recordAll(recorder, label);
+    QVERIFY(label.setUnit(ZelDimensions::Millimetre, false));
+    QCOMPARE(recorder.take(), QStringList());
+}
+
+void tst_zelQtUnitLabel::refusedUnitTellsNothing()
+{
+    ZelUIStdElement line;
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    label.setModelParent(&line);
+    EventRecorder recorder;
+    recordAll(recorder, label);
+    QVERIFY(!label.setUnit(ZelDimensions::Newton, false));
+    QCOMPARE(recorder.take(), QStringList());
+    QCOMPARE(label.text(), QStringLiteral("mm"));
+    QCOMPARE(label.mCurrentUnit, ZelDimensions::Millimetre);
+    QVERIFY(label.setUnit(ZelDimensions::Metre, false));
+    QCOMPARE(label.text(), QStringLiteral("m"));
+}
+
+void tst_zelQtUnitLabel::unknownUnitTextChangesNothing()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    EventRecorder recorder;
+    recordAll(recorder, label);
+    label.setCurrentUnit(QStringLiteral("Elle"));
+    QCOMPARE(recorder.take(), QStringList());
+    QCOMPARE(label.currentUnit(), QStringLiteral("mm"));
+}
+
+void tst_zelQtUnitLabel::setCurrentUnitOfTheCurrentUnitDoesNothing()
+{
+    CountingLabel label;
+    label.setCurrentUnit(QStringLiteral("mm"));
+    QCOMPARE(label.mFlags.size(), 1);
+    label.setCurrentUnit(QStringLiteral("mm"));
+    QCOMPARE(label.mFlags.size(), 1);
+}
+
+void tst_zelQtUnitLabel::setCurrentUnitPassesTheFlagOn()
+{
+    CountingLabel label;
+    label.setCurrentUnit(QStringLiteral("mm"), true);
+    label.setCurrentUnit(QStringLiteral("cm"), false);
+    label.setCurrentUnit(QStringLiteral("m"));
+    QCOMPARE(label.mFlags, QList<bool>({true, false, false}));
+}
+
+void tst_zelQtUnitLabel::flagMakesItTheDefaultUnitToo()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    label.setCurrentUnit(QStringLiteral("cm"), false);
+    QCOMPARE(label.mDefaultUnit, ZelDimensions::Millimetre);
+    label.setCurrentUnit(QStringLiteral("m"), true);
+    QCOMPARE(label.mDefaultUnit, ZelDimensions::Metre);
+}
+
+void tst_zelQtUnitLabel::propertyReadsAndWritesTheUnit()
+{
+    ZelQtUnitLabel label;
+    QVERIFY(label.setProperty("currentUnit", QStringLiteral("bar")));
+    QCOMPARE(label.property("currentUnit").toString(), QStringLiteral("bar"));
+    QCOMPARE(label.mCurrentUnit, ZelDimensions::Bar);
+}
+
+void tst_zelQtUnitLabel::checkUnitKeepsOrTakesTheDefault_data()
+{
+    QTest::addColumn<bool>("keep");
+    QTest::addColumn<bool>("customary");
+    QTest::addColumn<QString>("unit");
+    QTest::newRow("keep") << true << false << "cm";
+    QTest::newRow("default unit") << false << false << "mm";
+    QTest::newRow("keep, US customary") << true << true << "cm";
+    QTest::newRow("default unit, US customary") << false << true << "in";
+}
+
+void tst_zelQtUnitLabel::checkUnitKeepsOrTakesTheDefault()
+{
+    QFETCH(bool, keep);
+    QFETCH(bool, customary);
+    TarvexSetup setup;
+    setup.mUSCustomaryUnits = customary ? 1 : 0;
+    TarvexModule::Setup = &setup;
+    CountingLabel byText;
+    byText.checkUnit(QStringLiteral("cm"), keep);
+    QTEST(byText.currentUnit(), "unit");
+    CountingLabel byUnit;
+    byUnit.checkUnit(ZelDimensions::Centimetre, keep);
+    QTEST(byUnit.currentUnit(), "unit");
+    QCOMPARE(byText.mFlags, QList<bool>({false}));
+    QCOMPARE(byUnit.mFlags, QList<bool>({false}));
+}
+
+void tst_zelQtUnitLabel::setupShowsTheUnitOfTheVariable()
+{
+    ZelUIMultiVar variable(L"F", ZelDimensions::Newton);
+    AttrMap attributes;
+    ZelQtUnitLabel label;
+    label.setup(&variable, attributes);
+    QCOMPARE(label.text(), QStringLiteral("N"));
+    QCOMPARE(label.objectName(), QStringLiteral("F_unit"));
+    QCOMPARE(label.whatsThis(), QStringLiteral("F"));
+}
+
+void tst_zelQtUnitLabel::setDataShowsADynamicUnit()
+{
+    ZelQtUnitLabel label;
+    QVERIFY(label.setUnit(ZelDimensions::DynamicUnit, true));
+    label.mDynamicText = L"N/mm<sup>2</sup>";
+    QCOMPARE(label.text(), QString());
+    label.setData(nullptr, 0);
+    QCOMPARE(label.text(), QStringLiteral("N/mm<sup>2</sup>"));
+}
+
+void tst_zelQtUnitLabel::setDataShowsTheUnitChosenEarlierSilently()
+{
+    Meta meta;
+    auto *variable = meta.add<ZelUIMultiVar>(L"F", ZelDimensions::Newton);
+    meta.setCurrentUnit(*variable, 2, ZelDimensions::Kilonewton);
+    AttrMap attributes;
+    ZelQtUnitLabel label;
+    label.setup(variable, attributes);
+    EventRecorder recorder;
+    recordAll(recorder, label);
+    label.setData(&meta, 2);
+    QCOMPARE(label.text(), QStringLiteral("kN"));
+    QCOMPARE(recorder.take(), QStringList());
+}
+
+void tst_zelQtUnitLabel::widthForEveryUnitOfTheDimension()
+{
+    const ZelQtUnitLabel label(QStringLiteral("mm"));
+    int widest = 0;
+    for (const QString &unit : unitsOf(ZelDimensions::Millimetre))
+        widest = std::max(widest, label.fontMetrics().horizontalAdvance(unit));
+    QCOMPARE(label.absUnitWidth(), widest);
+
+    const ZelQtUnitLabel narrow(QStringLiteral("m"));
+    QVERIFY(widest > narrow.plainTextWidth());
+    QCOMPARE(narrow.absUnitWidth(), widest);
+}
+
+void tst_zelQtUnitLabel::widthWithoutUnitIsZero()
+{
+    QCOMPARE(ZelQtUnitLabel().absUnitWidth(), 0);
+}
+
+void tst_zelQtUnitLabel::widthOfADynamicUnitIsThatOfItsText()
+{
+    ZelQtUnitLabel label;
+    QVERIFY(label.setUnit(ZelDimensions::DynamicUnit, true));
+    label.mDynamicText = L"N/mm<sup>2</sup>";
+    QCOMPARE(label.absUnitWidth(), label.fontMetrics().horizontalAdvance(QStringLiteral("N/mm2")));
+}
+
+void tst_zelQtUnitLabel::modelHidesButNeverDisables()
+{
+    QWidget window;
+    ZelUIObject line;
+    ZelQtUnitLabel label(QStringLiteral("mm"), &window);
+    label.setModelParent(&line);
+    Meta meta;
+    line.mEnabled = false;
+    line.mVisible = false;
+    label.updateState(&meta, 0);
+    QVERIFY(label.isHidden());
+    QVERIFY(label.isEnabled());
+    line.mVisible = true;
+    label.updateState(&meta, 0);
+    QVERIFY(!label.isHidden());
+}
+
+void tst_zelQtUnitLabel::menuListsTheDimensionInOrder()
+{
+    ZelQtUnitLabel label(QStringLiteral("N"));
+    label.show();
+    QStringList shown;
+    const auto menu = onPopup<ZelQtContextMenu>([&](QMenu *menu) { shown = texts(menu); });
+    rightClick(&label);
+    QVERIFY(menu.ran());
+    QVERIFY(shown.size() > 2);
+    QCOMPARE(shown, unitsOf(ZelDimensions::Newton));
+}
+
+void tst_zelQtUnitLabel::everyDimensionHasAMenu_data()
+{
+    // The shortest list stands for one with a single unit, which the table of units doesn't hold:
+    // nothing asks for the length but for zero.
+    QTest::addColumn<int>("unit");
+    const int types = ZelDimensions::NoType;
+    for (int type = 0; type < types; ++type) {
+        const auto units = ZelDimensions::getList(static_cast<ZelDimensions::Type>(type));
+        if (units.size() <= 2)
+            QTest::addRow("dimension %d", type) << int(units.front());
+    }
+}
+
+void tst_zelQtUnitLabel::everyDimensionHasAMenu()
+{
+    QFETCH(int, unit);
+    ZelQtUnitLabel label;
+    label.checkUnit(static_cast<ZelDimensions::Unit>(unit), true);
+    label.show();
+    QStringList shown;
+    const auto menu = onPopup<ZelQtContextMenu>([&](QMenu *menu) { shown = texts(menu); });
+    rightClick(&label);
+    QVERIFY(menu.ran());
+    QCOMPARE(shown, unitsOf(label.mCurrentUnit));
+}
+
+void tst_zelQtUnitLabel::choosingTellsTheChangeBeforeTheUser()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    label.show();
+    EventRecorder recorder;
+    recordAll(recorder, label);
+    const auto menu =
+        onPopup<ZelQtContextMenu>([](QMenu *menu) { choose(menu, QStringLiteral("cm")); });
+    rightClick(&label);
+    QVERIFY(menu.ran());
+    QCOMPARE(recorder.take(),
+             QStringList({QStringLiteral("unitChanged(cm)"), QStringLiteral("unitChanged(mm, cm)"),
+                          QStringLiteral("changedByUser")}));
+    QCOMPARE(label.text(), QStringLiteral("cm"));
+}
+
+void tst_zelQtUnitLabel::choosingTheCurrentUnitTellsTheUserAloneOnPurpose()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    label.show();
+    EventRecorder recorder;
+    recordAll(recorder, label);
+    const auto menu =
+        onPopup<ZelQtContextMenu>([](QMenu *menu) { choose(menu, QStringLiteral("mm")); });
+    rightClick(&label);
+    QVERIFY(menu.ran());
+    QCOMPARE(recorder.take(), QStringList({QStringLiteral("changedByUser")}));
+}
+
+void tst_zelQtUnitLabel::choosingByKeys()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    label.show();
+    const auto menu = onPopup<ZelQtContextMenu>([](QMenu *menu) {
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    rightClick(&label);
+    QVERIFY(menu.ran());
+    QCOMPARE(label.currentUnit(), unitsOf(ZelDimensions::Millimetre).at(1));
+}
+
+void tst_zelQtUnitLabel::leavingTheMenuTellsNothing()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    label.show();
+    EventRecorder recorder;
+    recordAll(recorder, label);
+    const auto menu =
+        onPopup<ZelQtContextMenu>([](QMenu *menu) { QTest::keyClick(menu, Qt::Key_Escape); });
+    rightClick(&label);
+    QVERIFY(menu.ran());
+    QCOMPARE(recorder.take(), QStringList());
+    QCOMPARE(label.currentUnit(), QStringLiteral("mm"));
+}
+
+void tst_zelQtUnitLabel::chosenUnitReachesTheModelWithFlagFalse()
+{
+    CountingLabel label;
+    label.setCurrentUnit(QStringLiteral("mm"), true);
+    label.mFlags.clear();
+    label.show();
+    const auto menu =
+        onPopup<ZelQtContextMenu>([](QMenu *menu) { choose(menu, QStringLiteral("m")); });
+    rightClick(&label);
+    QVERIFY(menu.ran());
+    QCOMPARE(label.mFlags, QList<bool>({false}));
+    QCOMPARE(label.mDefaultUnit, ZelDimensions::Millimetre);
+}
+
+namespace {
+
+// True when a context menu event of that kind opened any popup over the label.
+bool opensMenu(ZelQtUnitLabel &label, QContextMenuEvent::Reason reason)
+{
+    const auto popup = onPopup<QWidget>([](QWidget *) {});
+    rightClick(&label, reason);
+    return popup.ran();
+}
+
+} // namespace
+
+void tst_zelQtUnitLabel::labelWithoutUnitShowsNoMenu()
+{
+    ZelQtUnitLabel label;
+    label.show();
+    EventRecorder recorder;
+    recordAll(recorder, label);
+    QVERIFY(!opensMenu(label, QContextMenuEvent::Mouse));
+    QCOMPARE(recorder.take(), QStringList());
+}
+
+void tst_zelQtUnitLabel::dynamicUnitShowsNoMenu()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    label.show();
+    QVERIFY(opensMenu(label, QContextMenuEvent::Mouse));
+    label.mDefaultUnit = ZelDimensions::DynamicUnit;
+    QVERIFY(!opensMenu(label, QContextMenuEvent::Mouse));
+}
+
+void tst_zelQtUnitLabel::keyboardShowsNoMenu()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    label.show();
+    QVERIFY(!opensMenu(label, QContextMenuEvent::Keyboard));
+    QVERIFY(!opensMenu(label, QContextMenuEvent::Other));
+}
+
+void tst_zelQtUnitLabel::parentReceivesTheEventInEveryCase()
+{
+    Page page;
+    ZelQtUnitLabel label(QStringLiteral("mm"), &page);
+    page.show();
+    QVERIFY(opensMenu(label, QContextMenuEvent::Mouse));
+    QCOMPARE(page.mContextMenus, 1);
+    QVERIFY(!opensMenu(label, QContextMenuEvent::Keyboard));
+    QCOMPARE(page.mContextMenus, 2);
+    label.mDefaultUnit = ZelDimensions::DynamicUnit;
+    QVERIFY(!opensMenu(label, QContextMenuEvent::Mouse));
+    QCOMPARE(page.mContextMenus, 3);
+}
+
+QTEST_MAIN(tst_zelQtUnitLabel)
+#include "tst_zelQtUnitLabel.moc"
