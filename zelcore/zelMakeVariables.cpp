@@ -6,6 +6,7 @@
 #include "zelUIMultiVar.h"
 #include "zelUIVarChoice.h"
 #include "zelUIVarKinds.h"
+#include "zelUIVarLists.h"
 
 #include <array>
 #include <cstdio>
@@ -30,6 +31,7 @@ void setNumbers(const ZelDomNode &node, ZelUIMultiVar &variable)
     variable.mHasTop = top.has_value();
     variable.mBottom = bottom.value_or(0);
     variable.mTop = top.value_or(0);
+    variable.mStepped = node.hasAttribute(L"step");
     variable.mStep = zelParseNumber(node.attribute(L"step")).value_or(1);
     const auto initial = zelParseNumbers(node.attribute(L"initial"));
     for (size_t i = 0; initial && i < std::min<size_t>(initial->size(), 3); ++i)
@@ -131,6 +133,53 @@ Made makeNumberList(const ZelDomNode &node)
     return made;
 }
 
+Made makeFunctionList(const ZelDomNode &node)
+{
+    const auto initial = zelParseInteger(node.attribute(L"initial")).value_or(0);
+    if (flag(node, L"dynamic")) {
+        auto made = std::make_unique<ZelUIVarFuncListDynamic>(node.attribute(L"name"));
+        made->mFunction = node.attribute(L"function");
+        made->mInitial = initial;
+        return made;
+    }
+    auto made = std::make_unique<ZelUIVarFuncList>(node.attribute(L"name"));
+    made->mFunction = node.attribute(L"function");
+    made->mInitial = static_cast<short>(initial);
+    return made;
+}
+
+// What all lists of the database have.
+template <class Variable> std::unique_ptr<Variable> makeDatabaseKind(const ZelDomNode &node)
+{
+    auto made = std::make_unique<Variable>(node.attribute(L"name"));
+    made->mOwn.setup(&node, L"own");
+    made->mInitial = static_cast<short>(zelParseInteger(node.attribute(L"initial")).value_or(0));
+    return made;
+}
+
+Made makeDatabaseList(const ZelDomNode &node)
+{
+    auto made = makeDatabaseKind<ZelUIVarDBList>(node);
+    made->mDatabase = node.attribute(L"database");
+    made->mTable = node.attribute(L"table");
+    if (node.hasAttribute(L"column"))
+        made->mIdColumn = node.attribute(L"column");
+    return made;
+}
+
+Made makeMaterial(const ZelDomNode &node)
+{
+    auto made = makeDatabaseKind<ZelUIVarMatList>(node);
+    if (const auto type = zelParseInteger(node.attribute(L"type")))
+        made->mTypes.push_back(static_cast<short>(*type));
+    return made;
+}
+
+Made makeLubricant(const ZelDomNode &node)
+{
+    return makeDatabaseKind<ZelUIVarLubList>(node);
+}
+
 Made makeChoice(const ZelDomNode &node)
 {
     auto made = std::make_unique<ZelUIVarChoice>(node.attribute(L"name"));
@@ -177,6 +226,10 @@ constexpr std::array makers{
     Maker{L"image", makeWithInitial<ZelUIVarImage>},
     Maker{L"list", makeList},
     Maker{L"reallist", makeNumberList},
+    Maker{L"funclist", makeFunctionList},
+    Maker{L"dblist", makeDatabaseList},
+    Maker{L"material", makeMaterial},
+    Maker{L"lubricant", makeLubricant},
     Maker{L"choice", makeChoice},
     Maker{L"table", makeTable},
 };

@@ -146,7 +146,7 @@ void ZelUIComboBox::refreshFunctionList(Meta &meta, int64_t id)
         DynamicList list = zelReadIdLines(answer);
         changed = !(list == mDynamicList);
         mDynamicList = std::move(list);
-    } else if (!mDatabase.empty()) {
+    } else if (!mTable.empty()) {
         std::set<short> ids = zelReadIds(answer);
         changed = ids != mAllowedIDs;
         mAllowedIDs = std::move(ids);
@@ -300,7 +300,7 @@ ZelUIComboBox::TextList ZelUIComboBox::allTexts()
         }
         return texts;
     }
-    if (!mGiven.empty() || mDatabase.empty())
+    if (!mGiven.empty() || mTable.empty())
         return mGiven;
     return databaseTexts();
 }

@@ -12,6 +12,7 @@ void ZelUIImageElement::setup(ZelUIVarImage *variable, AttrMap &attributes)
 {
     ZelUIObject::setup(variable, attributes);
     mFunction = zelAttribute(attributes, L"function");
+    mFile = zelAttribute(attributes, L"file");
 }
 
 void ZelUIImageElement::setData(Meta *meta, int64_t id)
@@ -23,4 +24,6 @@ void ZelUIImageElement::setData(Meta *meta, int64_t id)
         mImagePath = zelFunctionText(*meta, mFunction, id);
     else if (modelVariable())
         mImagePath = meta->text(*modelVariable(), id);
+    else
+        mImagePath = mFile;
 }

@@ -4,8 +4,8 @@
 
 class ZelUIVarImage;
 
-/// A picture in a mask. Its path is the value of an image variable, or what the function of the
-/// attribute "function" yields.
+/// A picture in a mask. Its path is the value of an image variable, what the function of the
+/// attribute "function" yields, or the attribute "file".
 class ZELCORE_EXPORT ZelUIImageElement : public ZelUIViewElement
 {
 public:
@@ -20,4 +20,5 @@ public:
 
 private:
     zelWString mFunction;
+    zelWString mFile;
 };

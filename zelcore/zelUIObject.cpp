@@ -19,9 +19,11 @@ std::shared_ptr<const ZelCondition> compileCondition(const ZelDomNode &node,
         return nullptr;
     ZelCondition::Fault fault;
     auto condition = ZelCondition::compile(node.attribute(attribute), build->meta(), fault);
-    if (!condition)
-        build->fault(ZelFaultCode::BadCondition, node.attributePlace(attribute), fault.mText,
-                     fault.mExpected);
+    if (!condition) {
+        ZelPlace place = node.attributeValuePlace(attribute);
+        place.mColumn += place.mLine > 0 ? fault.mAt : 0;
+        build->fault(ZelFaultCode::BadCondition, place, fault.mText, fault.mExpected);
+    }
     return condition;
 }
 

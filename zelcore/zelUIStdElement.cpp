@@ -70,7 +70,7 @@ void ZelUIStdElement::modelSetupLine(const ZelDomNode *line)
         if (number
             && ZelDimensions::getType(number->mDefaultUnit)
                 != ZelDimensions::getType(first->mDefaultUnit)) {
-            build->fault(ZelFaultCode::UnlikeUnits, node->attributePlace(L"name"),
+            build->fault(ZelFaultCode::UnlikeUnits, node->attributeValuePlace(L"name"),
                          "\"" + variable->name().toUtf8() + "\" has another dimension than \""
                              + first->name().toUtf8() + "\" in the same line",
                          "quantities of one dimension, since a line has one unit");

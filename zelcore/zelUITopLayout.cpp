@@ -1,6 +1,7 @@
 #include "zelUITopLayout.h"
 
 #include "zelDomNode.h"
+#include "zelUIDialogButtonBox.h"
 #include "zelUIExternalItem.h"
 #include "zelUIGroup.h"
 #include "zelUIPushButton.h"
@@ -48,6 +49,12 @@ void ZelUITopLayout::setup(const ZelDomNode *node)
     // An item without row goes below everything before it.
     int freeRow = 0;
     for (const ZelDomNode *child = node->firstChild(); child; child = child->nextSibling()) {
+        if (child->name() == L"buttons" && !mButtonBox) {
+            mButtonBox = build->factory().makeDialogButtonBox();
+            modelAddElement(mButtonBox);
+            if (mButtonBox)
+                mButtonBox->setup(child);
+        }
         ZelUILayoutItem *item = makeItem(build->factory(), *child);
         if (!item)
             continue;
@@ -85,5 +92,6 @@ void ZelUITopLayout::finishLayout()
 void ZelUITopLayout::modelForget(ZelUIObject *child)
 {
     zelForget(mItems, child);
+    zelForget(mButtonBox, child);
     ZelUIContainer::modelForget(child);
 }

@@ -2,6 +2,7 @@
 
 #include "zelUIContainer.h"
 
+class ZelUIDialogButtonBox;
 class ZelUILayoutItem;
 
 struct ZelUILayoutStruct
@@ -29,8 +30,15 @@ public:
     virtual void addLayoutItem(ZelUILayoutItem *item);
     virtual void finishLayout();
 
+    /// The row of buttons that the description gives; null without one. Whoever shows the page as a
+    /// dialog places it.
+    ZelUIDialogButtonBox *modelButtonBox() const { return mButtonBox; }
+
     std::vector<ZelUILayoutItem *> mItems;
 
 protected:
     void modelForget(ZelUIObject *child) override;
+
+private:
+    ZelUIDialogButtonBox *mButtonBox = nullptr;
 };

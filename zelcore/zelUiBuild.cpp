@@ -34,7 +34,7 @@ ZelUIVar *ZelUiBuild::variableOf(const ZelDomNode &node)
     const zelWString name = node.attribute(L"name");
     ZelUIVar *variable = name.empty() ? nullptr : mMeta.variable(name);
     if (!variable && !name.empty())
-        fault(ZelFaultCode::UnknownName, node.attributePlace(L"name"),
+        fault(ZelFaultCode::UnknownName, node.attributeValuePlace(L"name"),
               "unknown variable \"" + name.toUtf8() + "\"", "the name of a variable");
     return variable;
 }

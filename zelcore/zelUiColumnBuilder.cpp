@@ -59,7 +59,9 @@ template <class Element> Element *ZelUiColumnBuilder::own(std::unique_ptr<Elemen
 void ZelUiColumnBuilder::add(const ZelDomNode &node)
 {
     const zelWString &tag = node.name();
-    if (tag == L"var" || tag == L"table" || tag == L"image")
+    if (tag == L"image" && !node.hasAttribute(L"name"))
+        addImage(node, nullptr);
+    else if (tag == L"var" || tag == L"table" || tag == L"image")
         addVariable(node);
     else if (tag == L"line")
         addLine(node);

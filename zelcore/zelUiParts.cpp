@@ -20,8 +20,7 @@ namespace {
 ZelUIInput *makeNumber(ZelUiFactory &factory, ZelUIMultiVar *variable, AttrMap attributes,
                        int component)
 {
-    const bool spin = ZelUiParser::isTrue(zelAttribute(attributes, L"spin"));
-    if (spin && variable->mDefaultUnit == ZelDimensions::NoUnit) {
+    if (variable->mStepped && variable->mDefaultUnit == ZelDimensions::NoUnit) {
         if (ZelUISpinBox *box = factory.makeSpinBox()) {
             box->setup(variable, attributes, component, variable->mStep);
             return box;

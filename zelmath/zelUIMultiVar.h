@@ -30,4 +30,6 @@ public:
     std::array<double, 3> mInitial{};
     /// Step of a spin box.
     double mStep = 1;
+    /// Shown in a spin box, which takes a number without unit.
+    bool mStepped = false;
 };

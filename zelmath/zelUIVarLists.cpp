@@ -1,5 +1,24 @@
 #include "zelUIVarLists.h"
 
+namespace {
+
+std::vector<zelWString> ownNames(const ZelUITextHandler &own)
+{
+    return own.empty() ? std::vector<zelWString>() : std::vector<zelWString>{L"own"};
+}
+
+std::optional<int64_t> ownId(const ZelUITextHandler &own, const zelWString &name)
+{
+    return !own.empty() && name == L"own" ? std::optional<int64_t>(0) : std::nullopt;
+}
+
+zelWString ownName(const ZelUITextHandler &own, int64_t id)
+{
+    return !own.empty() && id == 0 ? zelWString(L"own") : zelWString();
+}
+
+} // namespace
+
 ZelUIVarFuncList::ZelUIVarFuncList(zelWString name)
     : ZelUIVar(std::move(name), ZelVarStorage::Integer)
 {
@@ -94,4 +113,64 @@ ZelUIVarLS::~ZelUIVarLS() = default;
 double ZelUIVarLS::initialNumber(int component) const
 {
     return component == 0 ? mInitial : mInitialNumber;
+}
+
+std::vector<zelWString> ZelUIVarDBList::entryNames() const
+{
+    return ownNames(mOwn);
+}
+
+std::optional<int64_t> ZelUIVarDBList::entryId(const zelWString &name) const
+{
+    return ownId(mOwn, name);
+}
+
+zelWString ZelUIVarDBList::entryName(int64_t id) const
+{
+    return ownName(mOwn, id);
+}
+
+std::vector<zelWString> ZelUIVarDBFuncList::entryNames() const
+{
+    return ownNames(mOwn);
+}
+
+std::optional<int64_t> ZelUIVarDBFuncList::entryId(const zelWString &name) const
+{
+    return ownId(mOwn, name);
+}
+
+zelWString ZelUIVarDBFuncList::entryName(int64_t id) const
+{
+    return ownName(mOwn, id);
+}
+
+std::vector<zelWString> ZelUIVarMatList::entryNames() const
+{
+    return ownNames(mOwn);
+}
+
+std::optional<int64_t> ZelUIVarMatList::entryId(const zelWString &name) const
+{
+    return ownId(mOwn, name);
+}
+
+zelWString ZelUIVarMatList::entryName(int64_t id) const
+{
+    return ownName(mOwn, id);
+}
+
+std::vector<zelWString> ZelUIVarLubList::entryNames() const
+{
+    return ownNames(mOwn);
+}
+
+std::optional<int64_t> ZelUIVarLubList::entryId(const zelWString &name) const
+{
+    return ownId(mOwn, name);
+}
+
+zelWString ZelUIVarLubList::entryName(int64_t id) const
+{
+    return ownName(mOwn, id);
 }

@@ -50,6 +50,9 @@ public:
     explicit ZelUIVarDBList(zelWString name);
     ~ZelUIVarDBList() override;
     double initialNumber(int component) const override;
+    std::vector<zelWString> entryNames() const override;
+    std::optional<int64_t> entryId(const zelWString &name) const override;
+    zelWString entryName(int64_t id) const override;
     zelWString mDatabase;
     zelWString mTable;
     zelWString mIdColumn = L"ID";
@@ -68,6 +71,9 @@ public:
     explicit ZelUIVarDBFuncList(zelWString name);
     ~ZelUIVarDBFuncList() override;
     double initialNumber(int component) const override;
+    std::vector<zelWString> entryNames() const override;
+    std::optional<int64_t> entryId(const zelWString &name) const override;
+    zelWString entryName(int64_t id) const override;
     zelWString mDatabase;
     zelWString mTable;
     zelWString mIdColumn = L"ID";
@@ -86,6 +92,9 @@ public:
     explicit ZelUIVarMatList(zelWString name);
     ~ZelUIVarMatList() override;
     double initialNumber(int component) const override;
+    std::vector<zelWString> entryNames() const override;
+    std::optional<int64_t> entryId(const zelWString &name) const override;
+    zelWString entryName(int64_t id) const override;
     /// Types of material to choose from; empty for all.
     std::vector<short> mTypes;
     ZelUITextHandler mOwn;
@@ -102,6 +111,9 @@ public:
     explicit ZelUIVarLubList(zelWString name);
     ~ZelUIVarLubList() override;
     double initialNumber(int component) const override;
+    std::vector<zelWString> entryNames() const override;
+    std::optional<int64_t> entryId(const zelWString &name) const override;
+    zelWString entryName(int64_t id) const override;
     ZelUITextHandler mOwn;
     short mInitial = 0;
 
