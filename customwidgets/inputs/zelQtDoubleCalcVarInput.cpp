@@ -21,19 +21,13 @@ ZelQtDoubleCalcVarInput::ZelQtDoubleCalcVarInput(QWidget *parent)
 
 ZelQtDoubleCalcVarInput::~ZelQtDoubleCalcVarInput() = default;
 
-void ZelQtDoubleCalcVarInput::misuse(const char *text, int line) const
+void ZelQtDoubleCalcVarInput::misuse(const char *text, const std::source_location &place) const
 {
     // An exception out of a slot would end the program.
     if (sender())
-        internMessage(__FILE__, line, text);
+        internMessage(place.file_name(), static_cast<long>(place.line()), text);
     else
         throw std::logic_error(text);
-}
-
-void ZelQtDoubleCalcVarInput::readShort(const ZelQtValueEdit *field, short &value,
-                                        const QString &unit)
-{
-    field->getWert(value, unit);
 }
 
 void ZelQtDoubleCalcVarInput::showInUnit(ZelQtValueEdit *field, const QString &unit)
@@ -57,8 +51,8 @@ void ZelQtDoubleCalcVarInput::getWert(zelAutoDirty<double> &first, zelAutoDirty<
 
 void ZelQtDoubleCalcVarInput::getWert(short &first, short &second, const QString &unit) const
 {
-    readShort(mInput, first, unit);
-    readShort(mInput2, second, unit);
+    mInput->getWert(first, unit);
+    mInput2->getWert(second, unit);
 }
 
 void ZelQtDoubleCalcVarInput::setWert(double first, double second, const QString &unit)
@@ -74,7 +68,7 @@ void ZelQtDoubleCalcVarInput::getWert2(double &second, const QString &unit) cons
 
 void ZelQtDoubleCalcVarInput::getWert2(short &second, const QString &unit) const
 {
-    readShort(mInput2, second, unit);
+    mInput2->getWert(second, unit);
 }
 
 void ZelQtDoubleCalcVarInput::setWert2(double second, const QString &unit)
@@ -117,8 +111,7 @@ void ZelQtDoubleCalcVarInput::setEditable(bool editable)
 {
     if (mReact1 != mReact2) {
         misuse("ZelQtDoubleCalcVarInput::setEditable(bool) wurde für Eingabefelder mit "
-               "unterschiedlichem Verhalten verwendet",
-               __LINE__);
+               "unterschiedlichem Verhalten verwendet");
         return;
     }
     ZelQtCalcVarInput::setEditable(editable);
@@ -147,8 +140,7 @@ void ZelQtDoubleCalcVarInput::setReactToToggle(bool first, bool second)
 {
     if (!first && !second) {
         misuse("ZelQtDoubleCalcVarInput::setReactToToggle() kein Eingabefeld kommuniziert mit dem "
-               "Edit-Button",
-               __LINE__);
+               "Edit-Button");
         return;
     }
     mReact1 = first;

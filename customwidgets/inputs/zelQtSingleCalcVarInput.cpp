@@ -1,6 +1,7 @@
 #include "zelQtSingleCalcVarInput.h"
 
 #include "zelQtConversions.h"
+#include "zelQtSaturate_p.h"
 #include "zelQtUnitLabel.h"
 #include "zelQtValueEdit.h"
 
@@ -39,9 +40,9 @@ void ZelQtSingleCalcVarInput::getWert(int &value, const QString &unit) const
 
 void ZelQtSingleCalcVarInput::getWert(unsigned int &value, const QString &unit) const
 {
-    int number = 0;
+    double number = 0;
     mInput->getWert(number, unit);
-    value = static_cast<unsigned int>(number);
+    value = saturate<unsigned int>(number);
 }
 
 void ZelQtSingleCalcVarInput::getWert(double &value, const QString &unit) const

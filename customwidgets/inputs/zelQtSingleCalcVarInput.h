@@ -27,7 +27,7 @@ public:
     /// The virtual setDefaultDecimals().
     virtual void setDecimals(int decimals);
 
-    /// The whole-number forms truncate.
+    // The whole-number forms truncate toward zero and stop at the ends of their range.
     void getWert(short &value, const QString &unit) const;
     void getWert(int &value, const QString &unit) const;
     void getWert(unsigned int &value, const QString &unit) const;

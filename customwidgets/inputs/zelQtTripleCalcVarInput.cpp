@@ -30,7 +30,7 @@ void ZelQtTripleCalcVarInput::getWert(short &first, short &second, short &third,
                                       const QString &unit) const
 {
     ZelQtDoubleCalcVarInput::getWert(first, second, unit);
-    readShort(mInput3, third, unit);
+    mInput3->getWert(third, unit);
 }
 
 void ZelQtTripleCalcVarInput::setWert(double first, double second, double third,
@@ -47,7 +47,7 @@ void ZelQtTripleCalcVarInput::getWert3(double &third, const QString &unit) const
 
 void ZelQtTripleCalcVarInput::getWert3(short &third, const QString &unit) const
 {
-    readShort(mInput3, third, unit);
+    mInput3->getWert(third, unit);
 }
 
 void ZelQtTripleCalcVarInput::setWert3(double third, const QString &unit)
@@ -91,8 +91,7 @@ void ZelQtTripleCalcVarInput::setEditable(bool editable)
     // Narrower than it looks, and meant so: with true, true, false this is no misuse.
     if (mReact1 != mReact2 && mReact1 != mReact3) {
         misuse("ZelQtTripleCalcVarInput::setEditable(bool) wurde für Eingabefelder mit "
-               "unterschiedlichem Verhalten verwendet",
-               __LINE__);
+               "unterschiedlichem Verhalten verwendet");
         return;
     }
     ZelQtCalcVarInput::setEditable(editable);
@@ -127,8 +126,7 @@ void ZelQtTripleCalcVarInput::setReactToToggle(bool first, bool second, bool thi
 {
     if (!first && !second && !third) {
         misuse("ZelQtTripleCalcVarInput::setReactToToggle() kein Eingabefeld kommuniziert mit dem "
-               "Edit-Button",
-               __LINE__);
+               "Edit-Button");
         return;
     }
     mReact1 = first;
