@@ -151,9 +151,8 @@ void ZelQtValueEdit::setLowPriority(bool low)
 
 void ZelQtValueEdit::updatePriority()
 {
-    // The colour that a new line edit without parent would have.
-    setTextColor(mLowPriority ? QColor(Qt::gray)
-                              : QApplication::palette("QLineEdit").color(QPalette::Text));
+    // The colour of a new line edit without parent, which is that of the application.
+    setTextColor(mLowPriority ? QColor(Qt::gray) : QApplication::palette().color(QPalette::Text));
 }
 
 void ZelQtValueEdit::setMessageState(int state)
