@@ -18,8 +18,10 @@ struct Decimal
 Decimal shortestDecimal(double value)
 {
     char buffer[32];
-    const auto end =
-        std::to_chars(std::begin(buffer), std::end(buffer), value, std::chars_format::scientific);
+    const auto end = std::to_chars(std::begin(buffer), std::end(buffer) - 1, value,
+                                   std::chars_format::scientific);
+    // to_chars ends without a zero, which atoi needs.
+    *end.ptr = '\0';
     const std::string_view text(buffer, static_cast<size_t>(end.ptr - buffer));
     const size_t e = text.find('e');
     Decimal decimal;
