@@ -1,0 +1,135 @@
+#include "fieldOnPage.h"
+#include "modal.h"
+#include "zelQtFormeleingabe.h"
+#include "zelQtValueEdit.h"
+#include "zelQtWinkeleingabe.h"
+
+#include <QContextMenuEvent>
+#include <QtTest>
+
+// Which popup the right mouse button opens on a value edit, and when none.
+
+class tst_zelQtValueEdit_popups : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void rightClickOpensTheFormulaAtTheMouse();
+    void fieldOfDegreesOpensTheAngle_data();
+    void fieldOfDegreesOpensTheAngle();
+    void angleInAnotherUnitOpensTheFormula();
+    void readOnlyFieldLeavesTheEventToItsParent();
+    void keyboardLeavesTheEventToItsParent();
+};
+
+namespace {
+
+/// Counts the context menu events that reach it.
+class Parent : public QWidget
+{
+public:
+    int mCount = 0;
+
+protected:
+    void contextMenuEvent(QContextMenuEvent *) override { ++mCount; }
+};
+
+bool sendContextMenu(QWidget &field, const QPoint &place = QPoint(3, 4),
+                     QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse)
+{
+    QContextMenuEvent event(reason, place, field.mapToGlobal(place));
+    QCoreApplication::sendEvent(&field, &event);
+    return event.isAccepted();
+}
+
+} // namespace
+
+void tst_zelQtValueEdit_popups::initTestCase()
+{
+    QLocale::setDefault(QLocale::c());
+}
+
+void tst_zelQtValueEdit_popups::rightClickOpensTheFormulaAtTheMouse()
+{
+    Parent parent;
+    ZelQtValueEdit field(QStringLiteral("mm"), &parent);
+    field.setWert(12.5, QString());
+    QVERIFY(showAndActivate(&parent));
+    QString formula;
+    QPoint place;
+    const auto popup = onPopup<ZelQtFormeleingabe>([&](ZelQtFormeleingabe *menu) {
+        formula = menu->findChild<QLineEdit *>(QStringLiteral("mFormel"))->text();
+        place = menu->pos();
+        QCOMPARE(menu->parent(), &field);
+    });
+    QVERIFY(sendContextMenu(field, QPoint(30, 10)));
+    QVERIFY(popup.ran());
+    QCOMPARE(formula, QStringLiteral("12.5000"));
+    QCOMPARE(place, field.mapToGlobal(QPoint(30, 10)));
+    QCOMPARE(parent.mCount, 0);
+}
+
+void tst_zelQtValueEdit_popups::fieldOfDegreesOpensTheAngle_data()
+{
+    QTest::addColumn<QString>("defaultUnit");
+    QTest::addColumn<double>("value");
+    QTest::newRow("stored in degrees") << "°" << 30.5;
+    QTest::newRow("stored in radians") << "rad" << 30.5 * 3.14159265358979323846 / 180 + 1e-12;
+}
+
+void tst_zelQtValueEdit_popups::fieldOfDegreesOpensTheAngle()
+{
+    QFETCH(QString, defaultUnit);
+    QFETCH(double, value);
+    Parent parent;
+    ZelQtValueEdit field(defaultUnit, QStringLiteral("°"), &parent);
+    QCOMPARE(int(field.mCurrentUnit), 133);
+    field.setWert(value, QString());
+    QVERIFY(showAndActivate(&parent));
+    QStringList texts;
+    const auto popup = onPopup<ZelQtWinkeleingabe>([&texts](ZelQtWinkeleingabe *menu) {
+        for (const char *name : {"mGrad", "mMinuten", "mSekunden"})
+            texts.append(menu->findChild<QLineEdit *>(QString::fromLatin1(name))->text());
+    });
+    QVERIFY(sendContextMenu(field));
+    QVERIFY(popup.ran());
+    QCOMPARE(texts, QStringList({QStringLiteral("30"), QStringLiteral("30"), QStringLiteral("0")}));
+}
+
+void tst_zelQtValueEdit_popups::angleInAnotherUnitOpensTheFormula()
+{
+    Parent parent;
+    ZelQtValueEdit field(QStringLiteral("°"), QStringLiteral("rad"), &parent);
+    QVERIFY(showAndActivate(&parent));
+    const auto popup = onPopup<ZelQtFormeleingabe>([](ZelQtFormeleingabe *) {});
+    sendContextMenu(field);
+    QVERIFY(popup.ran());
+}
+
+void tst_zelQtValueEdit_popups::readOnlyFieldLeavesTheEventToItsParent()
+{
+    Parent parent;
+    ZelQtValueEdit field(&parent);
+    field.setReadOnly(true);
+    QVERIFY(showAndActivate(&parent));
+    const auto popup = onPopup([](QWidget *) {});
+    sendContextMenu(field);
+    QCOMPARE(parent.mCount, 1);
+    QVERIFY(!popup.ran());
+}
+
+void tst_zelQtValueEdit_popups::keyboardLeavesTheEventToItsParent()
+{
+    Parent parent;
+    ZelQtValueEdit field(&parent);
+    QVERIFY(showAndActivate(&parent));
+    const auto popup = onPopup([](QWidget *) {});
+    sendContextMenu(field, QPoint(3, 4), QContextMenuEvent::Keyboard);
+    sendContextMenu(field, QPoint(3, 4), QContextMenuEvent::Other);
+    QCOMPARE(parent.mCount, 2);
+    QVERIFY(!popup.ran());
+}
+
+QTEST_MAIN(tst_zelQtValueEdit_popups)
+#include "tst_zelQtValueEdit_popups.moc"
