@@ -4,6 +4,18 @@
 
 #include <algorithm>
 
+namespace {
+
+// A new node has another parent, so that columns of thousands of lines are not searched for each.
+template <class Node>
+bool holds(const std::vector<Node *> &nodes, const Node *node, const ZelUIContainer *container)
+{
+    return node->modelParent() == container
+        && std::find(nodes.begin(), nodes.end(), node) != nodes.end();
+}
+
+} // namespace
+
 ZelUIContainer::ZelUIContainer() = default;
 ZelUIContainer::~ZelUIContainer() = default;
 
@@ -36,8 +48,7 @@ void ZelUIContainer::modelForget(ZelUIObject *child)
 
 void ZelUIContainer::modelAddContainer(ZelUIContainer *container)
 {
-    if (!container
-        || std::find(mContainers.begin(), mContainers.end(), container) != mContainers.end())
+    if (!container || holds(mContainers, container, this))
         return;
     container->setModelParent(this);
     mContainers.push_back(container);
@@ -45,7 +56,7 @@ void ZelUIContainer::modelAddContainer(ZelUIContainer *container)
 
 void ZelUIContainer::modelAddElement(ZelUIElement *element)
 {
-    if (!element || std::find(mElements.begin(), mElements.end(), element) != mElements.end())
+    if (!element || holds(mElements, element, this))
         return;
     element->setModelParent(this);
     mElements.push_back(element);
