@@ -1,0 +1,327 @@
+#include "zelQtColumnLayout.h"
+
+#include "maskParts.h"
+#include "meta.h"
+#include "zelUIFlag.h"
+#include "zelUIFlagElement.h"
+#include "zelUIInput.h"
+#include "zelUIMatElement.h"
+#include "zelUINotepadElement.h"
+#include "zelUIStdElement.h"
+#include "zelUITable.h"
+#include "zelUITableElement.h"
+#include "zelUITextLabel.h"
+#include "zelUIViewElement.h"
+
+#include <QtTest>
+
+#include <QCheckBox>
+#include <QGraphicsView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+
+namespace {
+
+using Label = Part<QLabel, ZelUITextLabel>;
+using Flag = Part<QCheckBox, ZelUIFlag>;
+using Table = Part<QTableView, ZelUITable>;
+using View = Part<QFrame, ZelUIViewElement>;
+
+/// Tells what the walk of the model reached.
+class Input : public QLineEdit, public ZelUIInput
+{
+public:
+    using ZelUIInput::setData;
+    void setData(Meta *, int64_t id) override { mIds.push_back(id); }
+
+    std::vector<int64_t> mIds;
+};
+
+class CountingColumn : public ZelQtColumnLayout
+{
+public:
+    void invalidate() override
+    {
+        ++mInvalidations;
+        ZelQtColumnLayout::invalidate();
+    }
+
+    int mInvalidations = 0;
+};
+
+struct Mask
+{
+    PartOwner mParts;
+    QWidget mWindow;
+    CountingColumn *mColumn = new CountingColumn;
+
+    Mask() { mWindow.setLayout(mColumn); }
+    QStringList grid() const { return describeGrid(mColumn); }
+    QSpacerItem *bottomSpacer() const
+    {
+        return mColumn->count() ? mColumn->itemAt(mColumn->count() - 1)->spacerItem() : nullptr;
+    }
+    QSizePolicy::Policy bottomPolicy() const
+    {
+        return bottomSpacer()->sizePolicy().verticalPolicy();
+    }
+};
+
+} // namespace
+
+class tst_zelQtColumnLayout : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void layoutWithParentInstallsItself();
+    void firstElementStandsInRowZeroAndTheSecondInRowOne_data();
+    void firstElementStandsInRowZeroAndTheSecondInRowOne();
+    void finishLayoutAddsABottomSpacer();
+    void finishLayoutOfAnEmptyColumnStillAddsIt();
+    void setDataReachesTheInputs();
+    void setDataBeforeFinishLayoutIsHarmless();
+    void columnWithATableLetsItTakeTheHeight();
+    void setDataInvalidatesOnlyWhenTheSpacerChanged();
+    void columnWithoutViewsSticksToTheTop();
+    void graphicsViewCountsAsView();
+    void graphicsViewMakesTheContentVisibleWhileItShows();
+    void elementsMakeTheContentVisible();
+    void columnsOfFourThousandLinesFillQuickly();
+};
+
+void tst_zelQtColumnLayout::layoutWithParentInstallsItself()
+{
+    QWidget window;
+    auto *column = new ZelQtColumnLayout(&window);
+    QCOMPARE(window.layout(), column);
+    QVERIFY(!ZelQtColumnLayout().parentWidget());
+}
+
+void tst_zelQtColumnLayout::firstElementStandsInRowZeroAndTheSecondInRowOne_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    const QStringList kinds = {"standard", "flag", "material", "view", "table"};
+    for (const QString &first : kinds) {
+        for (const QString &second : kinds)
+            QTest::newRow(qPrintable(first + ", " + second)) << first << second;
+    }
+}
+
+void tst_zelQtColumnLayout::firstElementStandsInRowZeroAndTheSecondInRowOne()
+{
+    struct Kinds
+    {
+        ZelUIStdElement mStandard;
+        ZelUIFlagElement mFlag;
+        ZelUIMatElement mMaterial;
+        ZelUITableElement mTable;
+    };
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+    Kinds kinds[2];
+    Mask mask;
+    QString expected[2];
+    for (int i = 0; i < 2; ++i) {
+        Kinds &own = kinds[i];
+        const QString kind = i == 0 ? first : second;
+        const QString name = QString("part%1").arg(i);
+        expected[i] = QString::number(i) + ',';
+        if (kind == "standard") {
+            own.mStandard.mInputs.push_back(mask.mParts.make<Input>(name));
+            mask.mColumn->addStdElement(&own.mStandard);
+            expected[i] += "0 1x3 " + name;
+        } else if (kind == "flag") {
+            own.mFlag.mFlag = mask.mParts.make<Flag>(name);
+            mask.mColumn->addFlagElement(&own.mFlag);
+            expected[i] += "0 1x5 " + name;
+        } else if (kind == "material") {
+            own.mMaterial.mLabel1 = mask.mParts.make<Label>(name);
+            mask.mColumn->addMatElement(&own.mMaterial);
+            expected[i] += "0 " + name;
+        } else if (kind == "view") {
+            mask.mColumn->addViewElement(mask.mParts.make<View>(name), false, 6);
+            expected[i] += "0 1x6 " + name;
+        } else {
+            own.mTable.mTable = mask.mParts.make<Table>(name);
+            mask.mColumn->addTableElement(&own.mTable, false, 6);
+            expected[i] += "0 1x6 " + name;
+        }
+    }
+    QCOMPARE(mask.grid(), QStringList({expected[0], expected[1]}));
+}
+
+void tst_zelQtColumnLayout::finishLayoutAddsABottomSpacer()
+{
+    Mask mask;
+    ZelUIFlagElement flag;
+    flag.mFlag = mask.mParts.make<Flag>("flag");
+    mask.mColumn->addFlagElement(&flag);
+
+    mask.mColumn->finishLayout();
+
+    QCOMPARE(mask.grid(), QStringList({"0,0 1x5 flag", "1,0 *"}));
+    QCOMPARE(mask.bottomSpacer()->sizeHint(), QSize(20, 0));
+    QCOMPARE(mask.bottomSpacer()->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
+    QCOMPARE(mask.bottomPolicy(), QSizePolicy::Expanding);
+}
+
+void tst_zelQtColumnLayout::finishLayoutOfAnEmptyColumnStillAddsIt()
+{
+    Mask mask;
+    mask.mColumn->finishLayout();
+    QCOMPARE(mask.grid(), QStringList("1,0 *"));
+}
+
+void tst_zelQtColumnLayout::setDataReachesTheInputs()
+{
+    Mask mask;
+    ZelUIStdElement element;
+    auto *input = mask.mParts.make<Input>("in1");
+    element.mInputs.push_back(input);
+    element.modelAdoptParts();
+    mask.mColumn->addStdElement(&element);
+    mask.mColumn->finishLayout();
+    Meta meta;
+
+    mask.mColumn->setData(&meta, 7);
+    mask.mColumn->setData(&meta, 8);
+
+    QCOMPARE(input->mIds, std::vector<int64_t>({7, 8}));
+}
+
+void tst_zelQtColumnLayout::setDataBeforeFinishLayoutIsHarmless()
+{
+    Mask mask;
+    mask.mColumn->setData(nullptr, 0);
+    QCOMPARE(mask.grid(), QStringList());
+}
+
+void tst_zelQtColumnLayout::columnWithATableLetsItTakeTheHeight()
+{
+    Mask mask;
+    ZelUITableElement table;
+    table.mTable = mask.mParts.make<Table>("table");
+    mask.mColumn->addTableElement(&table, false, 6);
+    mask.mColumn->finishLayout();
+    QCOMPARE(mask.bottomPolicy(), QSizePolicy::Expanding);
+
+    mask.mColumn->setData(nullptr, 0);
+    QCOMPARE(mask.bottomPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(mask.bottomSpacer()->sizeHint(), QSize(20, 0));
+
+    table.mVisible = false;
+    mask.mColumn->setData(nullptr, 0);
+    QCOMPARE(mask.bottomPolicy(), QSizePolicy::Expanding);
+}
+
+void tst_zelQtColumnLayout::setDataInvalidatesOnlyWhenTheSpacerChanged()
+{
+    Mask mask;
+    ZelUITableElement table;
+    table.mTable = mask.mParts.make<Table>("table");
+    mask.mColumn->addTableElement(&table, false, 6);
+    mask.mColumn->finishLayout();
+    mask.mColumn->mInvalidations = 0;
+
+    mask.mColumn->setData(nullptr, 0);
+    QCOMPARE(mask.mColumn->mInvalidations, 1);
+    mask.mColumn->setData(nullptr, 0);
+    QCOMPARE(mask.mColumn->mInvalidations, 1);
+    table.mVisible = false;
+    mask.mColumn->setData(nullptr, 0);
+    QCOMPARE(mask.mColumn->mInvalidations, 2);
+}
+
+void tst_zelQtColumnLayout::columnWithoutViewsSticksToTheTop()
+{
+    Mask mask;
+    ZelUIFlagElement flag;
+    flag.mFlag = mask.mParts.make<Flag>("flag");
+    mask.mColumn->addFlagElement(&flag);
+    mask.mColumn->finishLayout();
+    mask.mColumn->mInvalidations = 0;
+
+    mask.mColumn->setData(nullptr, 0);
+
+    QCOMPARE(mask.bottomPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(mask.mColumn->mInvalidations, 0);
+    QVERIFY(!mask.mColumn->containsViews(false));
+    QVERIFY(!mask.mColumn->containsExpandingViews(false));
+}
+
+void tst_zelQtColumnLayout::graphicsViewCountsAsView()
+{
+    Mask mask;
+    mask.mColumn->addWidget(new QLabel, 0, 0);
+    mask.mColumn->addWidget(new QGraphicsView, 1, 0);
+    mask.mColumn->finishLayout();
+    for (const bool visibleOnly : {false, true}) {
+        QVERIFY(mask.mColumn->containsViews(visibleOnly));
+        QVERIFY(mask.mColumn->containsExpandingViews(visibleOnly));
+    }
+    mask.mColumn->setData(nullptr, 0);
+    QCOMPARE(mask.bottomPolicy(), QSizePolicy::Fixed);
+}
+
+void tst_zelQtColumnLayout::graphicsViewMakesTheContentVisibleWhileItShows()
+{
+    Mask mask;
+    auto *view = new QGraphicsView;
+    mask.mColumn->addWidget(view, 0, 0);
+    view->show();
+    QVERIFY(!view->isVisible()); // the window is not open, which must not matter
+    QVERIFY(mask.mColumn->isContentVisible());
+    view->hide();
+    QVERIFY(!mask.mColumn->isContentVisible());
+}
+
+void tst_zelQtColumnLayout::elementsMakeTheContentVisible()
+{
+    Mask mask;
+    QVERIFY(!mask.mColumn->isContentVisible());
+    ZelUIFlagElement flag;
+    flag.mFlag = mask.mParts.make<Flag>("flag");
+    mask.mColumn->addFlagElement(&flag);
+    QVERIFY(mask.mColumn->isContentVisible());
+    flag.mVisible = false;
+    QVERIFY(!mask.mColumn->isContentVisible());
+}
+
+// Guards against work that grows with the square of the lines, where four times the lines would
+// take sixteen times as long.
+void tst_zelQtColumnLayout::columnsOfFourThousandLinesFillQuickly()
+{
+    const auto fill = [](size_t count) {
+        std::vector<ZelUIFlagElement> flags(count);
+        std::vector<std::unique_ptr<Flag>> parts;
+        ZelQtColumnLayout column;
+        for (ZelUIFlagElement &flag : flags) {
+            parts.push_back(std::make_unique<Flag>());
+            flag.mFlag = parts.back().get();
+        }
+        QElapsedTimer timer;
+        timer.start();
+        for (ZelUIFlagElement &flag : flags)
+            column.addFlagElement(&flag);
+        column.finishLayout();
+        for (int i = 0; i < 10; ++i)
+            column.setData(nullptr, 0);
+        return timer.nsecsElapsed();
+    };
+    const auto best = [&fill](size_t count) {
+        qint64 time = std::numeric_limits<qint64>::max();
+        for (int i = 0; i < 5; ++i)
+            time = std::min(time, fill(count));
+        return time;
+    };
+    const qint64 thousand = best(1000);
+    const qint64 fourThousand = best(4000);
+    QVERIFY2(fourThousand < 10 * thousand,
+             qPrintable(QString("%1 ns, %2 ns").arg(thousand).arg(fourThousand)));
+}
+
+QTEST_MAIN(tst_zelQtColumnLayout)
+#include "tst_zelQtColumnLayout.moc"
