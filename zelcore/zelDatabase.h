@@ -10,6 +10,9 @@
 #include <utility>
 #include <vector>
 
+/// Name of the database that comes with the application, for lists that name none.
+inline constexpr const wchar_t *zelMainDatabase = L"main";
+
 /// How this process reads its database; whoever has one sets it at start. Texts come in the current
 /// language. A function that is missing finds nothing, and so does every reading without a
 /// provider.

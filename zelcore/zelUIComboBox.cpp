@@ -2,18 +2,18 @@
 
 #include "isDifferent.h"
 #include "meta.h"
+#include "zelDatabase.h"
 #include "zelFunctionText_p.h"
-#include "zelLanguage.h"
 #include "zelUIVarChoice.h"
 #include "zelUIVarLists.h"
 #include "zelUiListText_p.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <limits>
 
 namespace {
-
-ZelUIComboBox::ListReader listReader;
 
 zelWString numberText(double number)
 {
@@ -26,6 +26,15 @@ template <class Entry, class Id> bool containsId(const std::vector<Entry> &list,
 {
     return std::any_of(list.begin(), list.end(),
                        [id](const Entry &entry) { return entry.second == id; });
+}
+
+// Names of databases and tables go to the database as Latin-1.
+std::string toLatin1(const zelWString &text)
+{
+    std::string narrow;
+    for (const wchar_t c : text.view())
+        narrow += c > 0 && c < 0x100 ? static_cast<char>(c) : '?';
+    return narrow;
 }
 
 } // namespace
@@ -44,7 +53,7 @@ void ZelUIComboBox::take(ZelUIVar *variable, AttrMap &attributes, int component,
 void ZelUIComboBox::takeDatabase(const zelWString &database, const zelWString &table,
                                  const zelWString &idColumn, const ZelUITextHandler &own)
 {
-    mDatabase = database;
+    mDatabase = database.empty() ? zelWString(zelMainDatabase) : database;
     mTable = table;
     mIdColumn = idColumn;
     mOwn = own;
@@ -54,19 +63,28 @@ void ZelUIComboBox::setup(ZelUIVarLS *variable, AttrMap &attributes, int compone
 {
     take(variable, attributes, component, Function);
     mFunction = variable->mFunction;
+    // The widgets override the general form alone for this kind and the two below.
+    setup(static_cast<ZelUIVar *>(variable), attributes);
 }
 
-// Lists of lubricants and materials are filled by whoever reads them, through setTextList.
-void ZelUIComboBox::setup(ZelUIVarLubList *variable, AttrMap &attributes, bool, bool)
+void ZelUIComboBox::setup(ZelUIVarLubList *variable, AttrMap &attributes, bool types,
+                          bool lubricants)
 {
     take(variable, attributes, 0, NoSource);
-    mOwn = variable->mOwn;
+    mHoldsValue = lubricants || !types;
+    if (mHoldsValue)
+        takeDatabase({}, L"lubricant", L"ID", variable->mOwn);
+    setup(static_cast<ZelUIVar *>(variable), attributes);
 }
 
-void ZelUIComboBox::setup(ZelUIVarMatList *variable, AttrMap &attributes, bool)
+void ZelUIComboBox::setup(ZelUIVarMatList *variable, AttrMap &attributes, bool types)
 {
     take(variable, attributes, 0, NoSource);
-    mOwn = variable->mOwn;
+    mHoldsValue = !types;
+    mMaterials = !types;
+    if (mHoldsValue)
+        takeDatabase({}, L"material", L"ID", variable->mOwn);
+    setup(static_cast<ZelUIVar *>(variable), attributes);
 }
 
 void ZelUIComboBox::setup(ZelUIVarRealFuncList *variable, AttrMap &attributes, int component)
@@ -116,8 +134,12 @@ void ZelUIComboBox::setup(ZelUIVarList *variable, AttrMap &attributes, int compo
 
 void ZelUIComboBox::setData(Meta *, int64_t, short key, short currentId)
 {
-    mListKey = static_cast<uint64_t>(std::max<short>(key, 0));
+    const auto newKey = static_cast<uint64_t>(std::max<short>(key, 0));
     mCurrentId = currentId;
+    if (newKey == mListKey)
+        return;
+    mListKey = newKey;
+    retranslate();
 }
 
 void ZelUIComboBox::getData(short &currentId)
@@ -134,7 +156,7 @@ void ZelUIComboBox::setData(Meta *meta, int64_t id)
         refreshFunctionList(*meta, id);
     if (mSource == Dynamic)
         mCurrentId64 = mLoadedId64 = meta->integer(*modelVariable(), id, modelComponent());
-    else
+    else if (mHoldsValue)
         mCurrentId = mLoadedId = storedId(*meta, id);
 }
 
@@ -155,6 +177,8 @@ void ZelUIComboBox::refreshFunctionList(Meta &meta, int64_t id)
         std::vector<double> numbers;
         if (mSource == NumberFunction) {
             for (const auto &[text, number] : zelReadNumberLines(answer)) {
+                if (numbers.size() == std::numeric_limits<short>::max())
+                    break;
                 numbers.push_back(number);
                 list.emplace_back(text, static_cast<short>(numbers.size()));
             }
@@ -188,8 +212,8 @@ void ZelUIComboBox::writeId(Meta &meta, int64_t id)
     if (mSource == Dynamic)
         meta.setInteger(variable, id, modelComponent(), mCurrentId64, ZelOrigin::User);
     else if (mSource == Numbers || mSource == NumberFunction)
-        meta.setReal(variable, id, modelComponent(), mNumbers[static_cast<size_t>(mCurrentId) - 1],
-                     ZelOrigin::User);
+        meta.setReal(variable, id, modelComponent(),
+                     mNumbers.at(static_cast<size_t>(mCurrentId - 1)), ZelOrigin::User);
     else if (mChoice)
         meta.pick(*mChoice, id, mCurrentId, ZelOrigin::User);
     else
@@ -203,7 +227,7 @@ void ZelUIComboBox::writeId(Meta &meta, int64_t id)
 
 void ZelUIComboBox::getData(Meta *meta, int64_t id)
 {
-    if (!modelMayWrite(meta))
+    if (!modelMayWrite(meta) || !mHoldsValue)
         return;
     const bool loaded = modelIsLoaded(meta, id);
     if (mSource == Dynamic) {
@@ -221,12 +245,12 @@ void ZelUIComboBox::getData(Meta *meta, int64_t id)
 bool ZelUIComboBox::setUserInput(Meta *meta, int64_t id, const zelWString &text, bool &changed)
 {
     changed = false;
-    if (!modelMayWrite(meta))
+    if (!modelMayWrite(meta) || !mHoldsValue)
         return false;
     if (mSource == Dynamic) {
         const auto found = std::find_if(mDynamicList.begin(), mDynamicList.end(),
                                         [&](const auto &entry) { return entry.first == text; });
-        if (found == mDynamicList.end())
+        if (found == mDynamicList.end() || mDynamicDisabledIDs.count(found->second) > 0)
             return false;
         changed = found->second != meta->integer(*modelVariable(), id, modelComponent());
         mCurrentId64 = found->second;
@@ -236,7 +260,7 @@ bool ZelUIComboBox::setUserInput(Meta *meta, int64_t id, const zelWString &text,
         const auto found = std::find_if(entries.begin(), entries.end(), [&](const auto &entry) {
             return named ? entry.second == *named : entry.first == text;
         });
-        if (found == entries.end())
+        if (found == entries.end() || isDisabled(found->second) || !holds(found->second))
             return false;
         changed = found->second != storedId(*meta, id);
         mCurrentId = found->second;
@@ -261,7 +285,25 @@ zelWString ZelUIComboBox::getRenderedData()
         if (id == mCurrentId)
             return text;
     }
-    return {};
+    return modelDatabaseName(mCurrentId).value_or(zelWString());
+}
+
+void ZelUIComboBox::retranslate()
+{
+    ZelUIInput::retranslate();
+    mRows.reset();
+}
+
+std::optional<zelWString> ZelUIComboBox::modelDatabaseName(short id) const
+{
+    if (mDatabase.empty())
+        return std::nullopt;
+    long row = id;
+    long unused = 0;
+    std::array<wchar_t, 1024> name{};
+    const int found = GetDBName(toLatin1(mDatabase).c_str(), toLatin1(mTable).c_str(), 0, row,
+                                unused, name.data());
+    return found == 0 ? std::nullopt : std::optional(zelWString(name.data()));
 }
 
 void ZelUIComboBox::setTextList(std::vector<std::pair<zelWString, short>> list)
@@ -305,19 +347,17 @@ ZelUIComboBox::TextList ZelUIComboBox::allTexts()
     return databaseTexts();
 }
 
-// Rows are read once for each language: a mask asks for its lists at every refresh.
+// Rows are kept until the list is filled anew: who collects or prints a mask asks for them too.
 ZelUIComboBox::TextList ZelUIComboBox::databaseTexts()
 {
-    const std::wstring key = std::wstring(mDatabase) + L'\n' + std::wstring(mTable) + L'\n'
-        + std::wstring(mIdColumn) + L'\n' + std::to_wstring(static_cast<int>(zelLanguage()));
-    if (listReader && !(mRowsKey == key)) {
-        mRows = listReader(mDatabase, mTable, mIdColumn);
-        mRowsKey = key;
+    if (!mRows) {
+        mRows = mMaterials ? DBreadmatlist(mTable, static_cast<int>(mListKey))
+                           : zelDatabaseRows(mDatabase, mTable, mIdColumn, mListKey);
     }
     TextList texts;
     if (!mOwn.empty())
         texts.emplace_back(mOwn.getText(), short(0));
-    for (const auto &row : mRows) {
+    for (const auto &row : *mRows) {
         if (mFunction.empty() || mAllowedIDs.count(row.second) > 0)
             texts.push_back(row);
     }
@@ -326,15 +366,12 @@ ZelUIComboBox::TextList ZelUIComboBox::databaseTexts()
 
 bool ZelUIComboBox::holds(short id)
 {
-    return containsId(list(), id);
+    if (mSource == Numbers || mSource == NumberFunction)
+        return id >= 1 && static_cast<size_t>(id) <= mNumbers.size();
+    return containsId(allTexts(), id) || modelDatabaseName(id).has_value();
 }
 
 bool ZelUIComboBox::holdsDynamic(int64_t id) const
 {
     return containsId(mDynamicList, id);
-}
-
-void ZelUIComboBox::setModelListReader(ListReader reader)
-{
-    listReader = std::move(reader);
 }
