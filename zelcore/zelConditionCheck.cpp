@@ -103,14 +103,20 @@ void zelCheckConditions(ZelDomNode &root, Meta &meta, ZelCheckReport &report)
 
 void zelCheckFunctions(ZelDomNode &root, const Meta &meta, ZelCheckReport &report)
 {
-    zelWalk(root, [&](ZelDomNode &node) {
-        const zelWString name = node.attribute(L"function");
+    const auto check = [&](ZelDomNode &node, const zelWString &attribute) {
+        const zelWString name = node.attribute(attribute);
         if (name.empty() || meta.hasFunction(name))
-            return true;
-        report.add(ZelFaultCode::UnknownFunction, node.attributeValuePlace(L"function"),
+            return;
+        report.add(ZelFaultCode::UnknownFunction, node.attributeValuePlace(attribute),
                    "unknown function \"" + name.toUtf8() + "\" of " + zelNodeText(node),
                    "a function of the module");
-        node.removeAttribute(L"function");
+        node.removeAttribute(attribute);
+    };
+    zelWalk(root, [&](ZelDomNode &node) {
+        for (const auto &[attribute, value] : node.attributes()) {
+            if (attribute.view().ends_with(L"function"))
+                check(node, attribute);
+        }
         return true;
     });
 }

@@ -133,53 +133,6 @@ Made makeNumberList(const ZelDomNode &node)
     return made;
 }
 
-Made makeFunctionList(const ZelDomNode &node)
-{
-    const auto initial = zelParseInteger(node.attribute(L"initial")).value_or(0);
-    if (flag(node, L"dynamic")) {
-        auto made = std::make_unique<ZelUIVarFuncListDynamic>(node.attribute(L"name"));
-        made->mFunction = node.attribute(L"function");
-        made->mInitial = initial;
-        return made;
-    }
-    auto made = std::make_unique<ZelUIVarFuncList>(node.attribute(L"name"));
-    made->mFunction = node.attribute(L"function");
-    made->mInitial = static_cast<short>(initial);
-    return made;
-}
-
-// What all lists of the database have.
-template <class Variable> std::unique_ptr<Variable> makeDatabaseKind(const ZelDomNode &node)
-{
-    auto made = std::make_unique<Variable>(node.attribute(L"name"));
-    made->mOwn.setup(&node, L"own");
-    made->mInitial = static_cast<short>(zelParseInteger(node.attribute(L"initial")).value_or(0));
-    return made;
-}
-
-Made makeDatabaseList(const ZelDomNode &node)
-{
-    auto made = makeDatabaseKind<ZelUIVarDBList>(node);
-    made->mDatabase = node.attribute(L"database");
-    made->mTable = node.attribute(L"table");
-    if (node.hasAttribute(L"column"))
-        made->mIdColumn = node.attribute(L"column");
-    return made;
-}
-
-Made makeMaterial(const ZelDomNode &node)
-{
-    auto made = makeDatabaseKind<ZelUIVarMatList>(node);
-    if (const auto type = zelParseInteger(node.attribute(L"type")))
-        made->mTypes.push_back(static_cast<short>(*type));
-    return made;
-}
-
-Made makeLubricant(const ZelDomNode &node)
-{
-    return makeDatabaseKind<ZelUIVarLubList>(node);
-}
-
 Made makeChoice(const ZelDomNode &node)
 {
     auto made = std::make_unique<ZelUIVarChoice>(node.attribute(L"name"));
@@ -209,6 +162,72 @@ Made makeTable(const ZelDomNode &node)
     return made;
 }
 
+short initialId(const ZelDomNode &node)
+{
+    return static_cast<short>(zelParseInteger(node.attribute(L"initial")).value_or(0));
+}
+
+Made makeFunctionList(const ZelDomNode &node)
+{
+    if (flag(node, L"dynamic")) {
+        auto objects = std::make_unique<ZelUIVarFuncListDynamic>(node.attribute(L"name"));
+        objects->mFunction = node.attribute(L"function");
+        objects->mInitial = initialId(node);
+        return objects;
+    }
+    auto made = std::make_unique<ZelUIVarFuncList>(node.attribute(L"name"));
+    made->mFunction = node.attribute(L"function");
+    made->mInitial = initialId(node);
+    return made;
+}
+
+Made makeFunctionNumberList(const ZelDomNode &node)
+{
+    auto made = std::make_unique<ZelUIVarRealFuncList>(node.attribute(L"name"));
+    made->mFunction = node.attribute(L"function");
+    made->mInitial = zelParseNumber(node.attribute(L"initial")).value_or(0);
+    return made;
+}
+
+template <class Variable> std::unique_ptr<Variable> makeFromDatabase(const ZelDomNode &node)
+{
+    auto made = std::make_unique<Variable>(node.attribute(L"name"));
+    made->mDatabase = node.attribute(L"database");
+    made->mTable = node.attribute(L"table");
+    if (node.hasAttribute(L"column"))
+        made->mIdColumn = node.attribute(L"column");
+    made->mOwn.setup(&node, L"own");
+    made->mInitial = initialId(node);
+    return made;
+}
+
+Made makeDatabaseList(const ZelDomNode &node)
+{
+    if (!node.hasAttribute(L"function"))
+        return makeFromDatabase<ZelUIVarDBList>(node);
+    auto made = makeFromDatabase<ZelUIVarDBFuncList>(node);
+    made->mFunction = node.attribute(L"function");
+    return made;
+}
+
+Made makeMaterial(const ZelDomNode &node)
+{
+    auto made = std::make_unique<ZelUIVarMatList>(node.attribute(L"name"));
+    for (const zelWString &word : zelWords(node.attribute(L"types"), true))
+        made->mTypes.push_back(static_cast<short>(zelParseInteger(word).value_or(0)));
+    made->mOwn.setup(&node, L"own");
+    made->mInitial = initialId(node);
+    return made;
+}
+
+Made makeLubricant(const ZelDomNode &node)
+{
+    auto made = std::make_unique<ZelUIVarLubList>(node.attribute(L"name"));
+    made->mOwn.setup(&node, L"own");
+    made->mInitial = initialId(node);
+    return made;
+}
+
 struct Maker
 {
     std::wstring_view mTag;
@@ -227,6 +246,7 @@ constexpr std::array makers{
     Maker{L"list", makeList},
     Maker{L"reallist", makeNumberList},
     Maker{L"funclist", makeFunctionList},
+    Maker{L"realfunclist", makeFunctionNumberList},
     Maker{L"dblist", makeDatabaseList},
     Maker{L"material", makeMaterial},
     Maker{L"lubricant", makeLubricant},

@@ -13,14 +13,6 @@ namespace {
 constexpr std::array<std::wstring_view, 8> words{L"or",    L"and", L"not",     L"true",
                                                  L"false", L"set", L"entered", L"rows"};
 
-// Kinds whose variables come from the database or from functions; no class stands for them yet.
-constexpr std::array<std::string_view, 4> laterKinds{"funclist", "dblist", "material", "lubricant"};
-
-bool isLater(const std::string &kind)
-{
-    return std::find(laterKinds.begin(), laterKinds.end(), kind) != laterKinds.end();
-}
-
 } // namespace
 
 ZelDimensions::Type ZelNamedVariable::dimension() const
@@ -47,8 +39,6 @@ bool ZelNameTable::add(ZelDomNode &node)
                     "another name, since line " + std::to_string(line) + " has this one");
         return false;
     }
-    if (isLater(kind))
-        mReport.mGone.insert(name);
     return true;
 }
 
@@ -56,7 +46,7 @@ ZelNamedVariable *ZelNameTable::find(const zelWString &name, ZelPlace place)
 {
     const auto found = mVariables.find(name);
     if (found != mVariables.end())
-        return isLater(found->second.mKind) ? nullptr : &found->second;
+        return &found->second;
     if (mReport.mGone.contains(name))
         return nullptr;
     std::string nearest;

@@ -44,7 +44,7 @@ constexpr Attribute line[]{
     {"buttons", Buttons, "Icon buttons at the end of the line", false,
      "size convert plus info offer database settings file"},
     {"help", HelpCode, "Help topic"},
-    {"info", HelpCodes, "Topics of the information button, commas or blanks between them"},
+    {"info", Integers, "Topics of the information button, commas or blanks between them"},
     {"infofile", Word, "File of the information button"},
     {"icon", Word, "File of the icon of a button"},
 };
@@ -54,6 +54,17 @@ constexpr Attribute size[]{
     {"width", Integer, "Wanted width in pixels", false, {}, 1, 10000},
     {"height", Integer, "Wanted height in pixels", false, {}, 1, 10000},
     {"natural", Bool, "As large as its content"},
+};
+
+constexpr Attribute buttonFunctions[]{
+    {"sizefunction", Function, "Function that the size button runs"},
+    {"convertfunction", Function, "Function that the convert button runs"},
+    {"plusfunction", Function, "Function that the plus button runs"},
+    {"infofunction", Function, "Function that the info button runs"},
+    {"offerfunction", Function, "Function that the offer button runs"},
+    {"databasefunction", Function, "Function that the database button runs"},
+    {"settingsfunction", Function, "Function that the settings button runs"},
+    {"filefunction", Function, "Function that the file button runs"},
 };
 
 // Attributes of one tag
@@ -72,7 +83,13 @@ constexpr Attribute realNumber[]{
     {"bottom", Number, "Smallest value"},
     {"top", Number, "Largest value"},
     {"decimals", Integer, "Decimals that show; 4 without it", false, {}, 0, 15},
-    {"step", Number, "Step of a spin box, which the field becomes by it", false, {}, 1e-15, 1e300},
+    {"step",
+     Number,
+     "Step of the spin box that a number without unit becomes by it",
+     false,
+     {},
+     1e-15,
+     1e300},
     {"optional", Bool, "Has a check box: checked is entered, unchecked is computed"},
 };
 constexpr Attribute wholeNumber[]{
@@ -81,7 +98,13 @@ constexpr Attribute wholeNumber[]{
     {"initial", Numbers, "What it starts with"},
     {"bottom", Number, "Smallest value"},
     {"top", Number, "Largest value"},
-    {"step", Number, "Step of a spin box, which the field becomes by it", false, {}, 1, 1e9},
+    {"step",
+     Number,
+     "Step of the spin box that a number without unit becomes by it",
+     false,
+     {},
+     1,
+     1e9},
     {"optional", Bool, "Has a check box: checked is entered, unchecked is computed"},
 };
 constexpr Attribute boolean[]{
@@ -117,17 +140,22 @@ constexpr Attribute databaseList[]{
     {"database", Word, "File of the database; the one of the application without it"},
     {"table", Word, "Table of the database", required},
     {"column", Word, "Column of the ids; \"ID\" without it"},
+    {"function", Function, "Function of the module that yields the ids to choose from"},
     {"own", Text, "Text of the entry 'own', id 0, by which the user gives values of his own"},
     {"initial", Integer, "The id it starts with", false, {}, 0, 32767},
 };
 constexpr Attribute material[]{
-    {"type", Integer, "Type of the materials", false, {}, 0, 32767},
+    {"types", Integers, "Types of material to choose from; all without it"},
     {"own", Text, "Text of the entry 'own', id 0, by which the user gives values of his own"},
     {"initial", Integer, "The id it starts with", false, {}, 0, 32767},
 };
 constexpr Attribute lubricant[]{
     {"own", Text, "Text of the entry 'own', id 0, by which the user gives values of his own"},
     {"initial", Integer, "The id it starts with", false, {}, 0, 32767},
+};
+constexpr Attribute functionNumberList[]{
+    {"function", Function, "Function of the module that yields the numbers", required},
+    {"initial", Number, "The number it starts with"},
 };
 constexpr Attribute choice[]{
     {"by", Enumeration, "Radio buttons pick an alternative, or typing in one of its variables",
@@ -212,8 +240,9 @@ constexpr Attribute textLabel[]{
     {"help", HelpCode, "Help topic"},
 };
 constexpr Attribute image[]{
-    {"name", Variable, "Image variable; without it the file shows"},
-    {"file", Word, "Path of the picture"},
+    {"name", Variable, "Image variable, whose value is the path"},
+    {"function", Function, "Function of the module that yields the path instead"},
+    {"file", Word, "Path of the picture for an image without variable"},
 };
 constexpr Attribute output[]{
     {"name", NewName, "Name of the object"},
@@ -234,10 +263,19 @@ constexpr Attribute dialogButton[]{
     {"key", Key, "Key of the text in the translations"},
     {"tooltip", Text, "Tool tip"},
     {"status", Text, "Status tip"},
-    {"role", Enumeration, "What it does to the dialog", false, "accept reject close action"},
     {"function", Function, "Function of the module that it runs"},
     {"argument", Word, "What the function is given"},
     {"icon", Word, "File of the icon"},
+};
+
+constexpr Attribute dialogRole[]{
+    {"role", Enumeration, "What it does to the dialog", false, "accept reject close action"},
+};
+constexpr Attribute columnButton[]{
+    {"align", Enumeration, "Place in its line", false, "left right center"},
+    {"help", HelpCode, "Help topic"},
+    {"info", Integers, "Topics of an information button, commas or blanks between them"},
+    {"infofile", Word, "File of an information button"},
 };
 
 constexpr ZelSchemaTag tags[]{
@@ -281,6 +319,11 @@ constexpr ZelSchemaTag tags[]{
      "variables",
      "One of the entries that a function yields",
      {variable, functionList, conditions}},
+    {"realfunclist",
+     "realfunclist",
+     "variables",
+     "One of the numbers that a function yields",
+     {variable, functionNumberList, conditions}},
     {"dblist",
      "dblist",
      "variables",
@@ -322,12 +365,12 @@ constexpr ZelSchemaTag tags[]{
      "var",
      "column head foot line",
      "Line of a variable, or its field in a common line",
-     {reference, line, input, conditions}},
+     {reference, line, input, buttonFunctions, conditions}},
     {"line",
      "line",
      "column head foot",
      "Several variables of like units in one line",
-     {gridColumn, line, conditions}},
+     {gridColumn, line, buttonFunctions, conditions}},
     {"column.text", "text", "column head foot", "Line of text", {textLabel, conditions}, true},
     {"column.table",
      "table",
@@ -342,12 +385,21 @@ constexpr ZelSchemaTag tags[]{
      {output, size, conditions}},
     {"tabs", "tabs", "page", "Pages of which one shows", {gridColumn, gridPlace, conditions}},
     {"external", "external", "page", "Form written by hand", {external, gridPlace, conditions}},
+    {"column.button",
+     "button",
+     "column head foot",
+     "Push button of the mask alone",
+     {dialogButton, columnButton, conditions}},
     {"buttons",
      "buttons",
      "page",
-     "Row of buttons of a dialog",
-     {dialogButtons, gridPlace, conditions}},
-    {"buttons.button", "button", "buttons", "Button of a dialog", {dialogButton, conditions}},
+     "Buttons of the dialog that shows the page",
+     {dialogButtons, conditions}},
+    {"buttons.button",
+     "button",
+     "buttons",
+     "Button of a dialog",
+     {dialogButton, dialogRole, conditions}},
 };
 
 } // namespace

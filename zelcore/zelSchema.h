@@ -23,6 +23,7 @@ enum class ZelSchemaType {
     Number, ///< in the variable's unit, "." as decimal sign
     Numbers, ///< one number for each component, blanks between them
     Integer,
+    Integers, ///< whole numbers from 0, commas or blanks between them
     Bool, ///< true or false
     Condition,
     Enumeration, ///< one of the words of the attribute
@@ -30,7 +31,6 @@ enum class ZelSchemaType {
     Components, ///< "2", or a range that begins with 1: "1..3"
     Formula, ///< formula symbol: "tau_k2"
     HelpCode, ///< number of a help topic
-    HelpCodes, ///< several of them, commas or blanks between them
     ClassName, ///< name of a C++ class
     Function, ///< name of a function of the module
     Word ///< name of something outside the description: a table of the database, a file
@@ -60,7 +60,7 @@ struct ZelSchemaTag
     std::string_view mParents;
     std::string_view mExplanation;
     /// Groups of attributes; several tags share some.
-    std::array<std::span<const ZelSchemaAttribute>, 4> mGroups;
+    std::array<std::span<const ZelSchemaAttribute>, 5> mGroups;
     /// Text between the tags counts.
     bool mContent = false;
 

@@ -50,8 +50,7 @@ std::optional<ZelValueFault> zelCheckValue(const ZelSchemaAttribute &attribute,
 
 /// Tags, places, attributes and types. False when nothing of the file can be used.
 bool zelCheckSchema(ZelDomNode &root, ZelCheckReport &report);
-/// Names, references and units of common lines. Kinds of variables that this library does not know
-/// yet count as gone.
+/// Names, references and units of common lines.
 void zelCheckNames(ZelDomNode &root, ZelCheckReport &report);
 /// Adds a variable for each node to `meta`.
 void zelMakeVariables(const ZelDomNode &root, Meta &meta);

@@ -110,6 +110,8 @@ std::string zelSchemaTypeText(const ZelSchemaAttribute &attribute)
         return "a number for each component";
     case ZelSchemaType::Integer:
         return "a whole number";
+    case ZelSchemaType::Integers:
+        return "whole numbers";
     case ZelSchemaType::Bool:
         return "true or false";
     case ZelSchemaType::Condition:
@@ -124,8 +126,6 @@ std::string zelSchemaTypeText(const ZelSchemaAttribute &attribute)
         return "a formula symbol";
     case ZelSchemaType::HelpCode:
         return "the number of a help topic";
-    case ZelSchemaType::HelpCodes:
-        return "numbers of help topics";
     case ZelSchemaType::ClassName:
         return "the name of a class";
     case ZelSchemaType::Function:

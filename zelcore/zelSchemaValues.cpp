@@ -126,7 +126,7 @@ bool isHelpCode(const zelWString &value)
     return code && *code >= 0 && *code <= 2147483647L;
 }
 
-bool areHelpCodes(const zelWString &value)
+bool areIntegers(const zelWString &value)
 {
     const auto words = zelWords(value, true);
     return !words.empty() && std::all_of(words.begin(), words.end(), isHelpCode);
@@ -151,8 +151,8 @@ bool isGood(const ZelSchemaAttribute &attribute, const zelWString &value)
         return isGoodInteger(attribute, value);
     case Type::HelpCode:
         return isHelpCode(value);
-    case Type::HelpCodes:
-        return areHelpCodes(value);
+    case Type::Integers:
+        return areIntegers(value);
     case Type::Bool:
         return zelParseBool(value).has_value();
     case Type::Components:
