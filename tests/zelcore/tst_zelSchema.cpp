@@ -157,7 +157,8 @@ void tst_zelSchema::faultOfVariable_data()
         R"(unknown tag <lst> (did you mean <list>?))", "bool(name=b)");
     row("unknown tag", R"(<bool name="b"/><¦wheel name="a"/>)", UnknownElement,
         "unknown tag <wheel> (<real>, <int>, <bool>, <text>, <notes>, <functext>, <button>, "
-        "<image>, <list>, <reallist>, <funclist>, <realfunclist>, <dblist>, <material>, <lubricant>, <choice>, "
+        "<image>, <list>, <reallist>, <funclist>, <realfunclist>, <dblist>, <material>, "
+        "<lubricant>, <choice>, "
         "<table>)",
         "bool(name=b)");
     row("misplaced tag", R"(<bool name="b"/><¦entry id="1" name="x"/>)", MisplacedElement,
