@@ -359,7 +359,10 @@ void tst_zelQtSingleCalcVarInput::unitOfTheMenuReachesTheField()
     double value = 0;
     page.mLine->getWert(value, QString());
     QCOMPARE(value, 1500.0);
-    QCOMPARE(page.take(), QStringList());
+    // The menu takes the focus, which ends the editing; nothing changed by that.
+    QStringList events = page.take();
+    events.removeAll(lineFinished.first());
+    QCOMPARE(events, QStringList());
 }
 
 void tst_zelQtSingleCalcVarInput::currentUnitLeavesTheValue()
