@@ -2,14 +2,18 @@
 
 #include "maskParts.h"
 #include "meta.h"
+#include "zelUIFileElement.h"
 #include "zelUIFlag.h"
 #include "zelUIFlagElement.h"
 #include "zelUIInput.h"
+#include "zelUILSElement.h"
 #include "zelUIMatElement.h"
+#include "zelUINotepad.h"
 #include "zelUINotepadElement.h"
 #include "zelUIStdElement.h"
 #include "zelUITable.h"
 #include "zelUITableElement.h"
+#include "zelUITextElement.h"
 #include "zelUITextLabel.h"
 #include "zelUIViewElement.h"
 
@@ -20,12 +24,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
+#include <QTextEdit>
 
 namespace {
 
 using Label = Part<QLabel, ZelUITextLabel>;
 using Flag = Part<QCheckBox, ZelUIFlag>;
 using Table = Part<QTableView, ZelUITable>;
+using Notepad = Part<QTextEdit, ZelUINotepad>;
 using View = Part<QFrame, ZelUIViewElement>;
 
 /// Tells what the walk of the model reached.
@@ -68,6 +74,78 @@ struct Mask
     }
 };
 
+/// An element of a kind with one part, whose name it takes.
+class AnyElement
+{
+public:
+    static QStringList kinds()
+    {
+        return {"standard",         "file",  "text", "flag",   "material",
+                "list with number", "table", "view", "notepad"};
+    }
+    // Gives the column, the span and the name of the part as the grid must have them.
+    QString addTo(Mask &mask, const QString &kind, const QString &name)
+    {
+        ZelQtColumnLayout &column = *mask.mColumn;
+        if (kind == "standard") {
+            mStandard.mInputs.push_back(mask.mParts.make<Input>(name));
+            column.addStdElement(&mStandard);
+            return "0 1x3 " + name;
+        }
+        if (kind == "file") {
+            mFile.mInputs.push_back(mask.mParts.make<Input>(name));
+            column.addFileElement(&mFile);
+            return "0 1x3 " + name;
+        }
+        if (kind == "text") {
+            mText.mLabel = mask.mParts.make<Label>(name);
+            column.addTextElement(&mText);
+            return "0 1x6 " + name + " left";
+        }
+        if (kind == "flag") {
+            mFlag.mFlag = mask.mParts.make<Flag>(name);
+            column.addFlagElement(&mFlag);
+            return "0 1x5 " + name;
+        }
+        if (kind == "material") {
+            mMaterial.mLabel1 = mask.mParts.make<Label>(name);
+            column.addMatElement(&mMaterial);
+            return "0 " + name;
+        }
+        if (kind == "list with number") {
+            mListWithNumber.mLabel1 = mask.mParts.make<Label>(name);
+            column.addLSElement(&mListWithNumber);
+            return "0 " + name;
+        }
+        return addView(mask, kind, name);
+    }
+
+private:
+    QString addView(Mask &mask, const QString &kind, const QString &name)
+    {
+        ZelQtColumnLayout &column = *mask.mColumn;
+        if (kind == "table") {
+            mTable.mTable = mask.mParts.make<Table>(name);
+            column.addTableElement(&mTable, false, 6);
+        } else if (kind == "notepad") {
+            mNotepad.mNotepad = mask.mParts.make<Notepad>(name);
+            column.addNotepadElement(&mNotepad, true, 6);
+        } else {
+            column.addViewElement(mask.mParts.make<View>(name), true, 6);
+        }
+        return "0 1x6 " + name;
+    }
+
+    ZelUIStdElement mStandard;
+    ZelUIFileElement mFile;
+    ZelUITextElement mText;
+    ZelUIFlagElement mFlag;
+    ZelUIMatElement mMaterial;
+    ZelUILSElement mListWithNumber;
+    ZelUITableElement mTable;
+    ZelUINotepadElement mNotepad;
+};
+
 } // namespace
 
 class tst_zelQtColumnLayout : public QObject
@@ -103,54 +181,21 @@ void tst_zelQtColumnLayout::firstElementStandsInRowZeroAndTheSecondInRowOne_data
 {
     QTest::addColumn<QString>("first");
     QTest::addColumn<QString>("second");
-    const QStringList kinds = {"standard", "flag", "material", "view", "table"};
-    for (const QString &first : kinds) {
-        for (const QString &second : kinds)
+    for (const QString &first : AnyElement::kinds()) {
+        for (const QString &second : AnyElement::kinds())
             QTest::newRow(qPrintable(first + ", " + second)) << first << second;
     }
 }
 
 void tst_zelQtColumnLayout::firstElementStandsInRowZeroAndTheSecondInRowOne()
 {
-    struct Kinds
-    {
-        ZelUIStdElement mStandard;
-        ZelUIFlagElement mFlag;
-        ZelUIMatElement mMaterial;
-        ZelUITableElement mTable;
-    };
     QFETCH(QString, first);
     QFETCH(QString, second);
-    Kinds kinds[2];
+    AnyElement elements[2];
     Mask mask;
-    QString expected[2];
-    for (int i = 0; i < 2; ++i) {
-        Kinds &own = kinds[i];
-        const QString kind = i == 0 ? first : second;
-        const QString name = QString("part%1").arg(i);
-        expected[i] = QString::number(i) + ',';
-        if (kind == "standard") {
-            own.mStandard.mInputs.push_back(mask.mParts.make<Input>(name));
-            mask.mColumn->addStdElement(&own.mStandard);
-            expected[i] += "0 1x3 " + name;
-        } else if (kind == "flag") {
-            own.mFlag.mFlag = mask.mParts.make<Flag>(name);
-            mask.mColumn->addFlagElement(&own.mFlag);
-            expected[i] += "0 1x5 " + name;
-        } else if (kind == "material") {
-            own.mMaterial.mLabel1 = mask.mParts.make<Label>(name);
-            mask.mColumn->addMatElement(&own.mMaterial);
-            expected[i] += "0 " + name;
-        } else if (kind == "view") {
-            mask.mColumn->addViewElement(mask.mParts.make<View>(name), false, 6);
-            expected[i] += "0 1x6 " + name;
-        } else {
-            own.mTable.mTable = mask.mParts.make<Table>(name);
-            mask.mColumn->addTableElement(&own.mTable, false, 6);
-            expected[i] += "0 1x6 " + name;
-        }
-    }
-    QCOMPARE(mask.grid(), QStringList({expected[0], expected[1]}));
+    const QString upper = elements[0].addTo(mask, first, "upper");
+    const QString lower = elements[1].addTo(mask, second, "lower");
+    QCOMPARE(mask.grid(), QStringList({"0," + upper, "1," + lower}));
 }
 
 void tst_zelQtColumnLayout::finishLayoutAddsABottomSpacer()

@@ -69,6 +69,7 @@ private Q_SLOTS:
     void leadingPartsTakeTheStretchOfTheLine();
     void expandingTableStretchesTheColumnBehindTheGrid();
     void elementAfterATableStandsBelowItsButtons();
+    void lubricantElementsStandBelowEachOther();
     void endsWithButtonLooksAtTheLastItem();
 };
 
@@ -343,6 +344,17 @@ void tst_zelQtColumnLayoutLists::elementAfterATableStandsBelowItsButtons()
     mask.mColumn->addMatElement(&material);
 
     QCOMPARE(mask.grid(), QStringList({"0,0 1x6 table", "1,0 1x6 [button] right", "2,2 combo2"}));
+}
+
+void tst_zelQtColumnLayoutLists::lubricantElementsStandBelowEachOther()
+{
+    Mask mask;
+    ZelUILubElement elements[2];
+    for (ZelUILubElement &element : elements) {
+        element.mCombo2 = mask.mParts.make<Combo>("combo2");
+        mask.mColumn->addLubElement(&element);
+    }
+    QCOMPARE(mask.grid(), QStringList({"0,2 combo2", "0,5 []", "1,2 combo2", "1,5 []"}));
 }
 
 void tst_zelQtColumnLayoutLists::endsWithButtonLooksAtTheLastItem()
