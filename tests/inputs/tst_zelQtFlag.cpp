@@ -2,8 +2,6 @@
 
 #include "meta.h"
 #include "recorder.h"
-#include "window.h"
-#include "zelQtTextHelpers.h"
 #include "zelUIVarKinds.h"
 
 #include <QtTest>

@@ -46,7 +46,7 @@ private slots:
     void popupTakesTheSizeOfTheSymbol();
     void acceptHidesThePopup();
     void keyboardShowsNoPopup();
-    void parentReceivesTheEventInEveryCase();
+    void parentReceivesTheEventTooOnPurpose();
 };
 
 void tst_zelQtFormulaLabel::textOfTheConstructor()
@@ -176,7 +176,7 @@ void tst_zelQtFormulaLabel::keyboardShowsNoPopup()
     QVERIFY(!popup.ran());
 }
 
-void tst_zelQtFormulaLabel::parentReceivesTheEventInEveryCase()
+void tst_zelQtFormulaLabel::parentReceivesTheEventTooOnPurpose()
 {
     Page page;
     ZelQtFormulaLabel label(symbol, &page);

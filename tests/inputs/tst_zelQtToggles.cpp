@@ -2,9 +2,7 @@
 #include "window.h"
 #include "zelQtCheckBox.h"
 #include "zelQtRadioButton.h"
-#include "zelQtTextHelpers.h"
 
-#include <QVBoxLayout>
 #include <QtTest>
 
 // The check box and the radio button behave alike, so each test runs for both.

@@ -1,29 +1,16 @@
 #include "zelQtUnitLabel.h"
 
 #include "meta.h"
-#include "modal.h"
 #include "recorder.h"
 #include "tarvexModule.h"
-#include "zelQtContextMenu.h"
 #include "zelUIMultiVar.h"
 #include "zelUIStdElement.h"
 
-#include <QContextMenuEvent>
 #include <QtTest>
 
 #include <algorithm>
 
 namespace {
-
-// Tells by which event its context menu was asked for.
-class Page : public QWidget
-{
-public:
-    int mContextMenus = 0;
-
-protected:
-    void contextMenuEvent(QContextMenuEvent *) override { ++mContextMenus; }
-};
 
 // Counts the calls of the virtual operation.
 class CountingLabel : public ZelQtUnitLabel
@@ -44,31 +31,6 @@ void recordAll(EventRecorder &recorder, ZelQtUnitLabel &label)
     recorder.recordArguments(&label, qOverload<QString, QString>(&ZelQtUnitLabel::unitChanged),
                              QStringLiteral("unitChanged"));
     recorder.record(&label, &ZelQtUnitLabel::changedByUser, QStringLiteral("changedByUser"));
-}
-
-void rightClick(QWidget *widget, QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse)
-{
-    QContextMenuEvent event(reason, QPoint(1, 1), widget->mapToGlobal(QPoint(1, 1)));
-    QApplication::sendEvent(widget, &event);
-}
-
-QStringList texts(const QMenu *menu)
-{
-    QStringList texts;
-    const QList<QAction *> actions = menu->actions();
-    for (const QAction *action : actions)
-        texts.append(action->text());
-    return texts;
-}
-
-void choose(QMenu *menu, const QString &unit)
-{
-    const QList<QAction *> actions = menu->actions();
-    for (QAction *action : actions) {
-        if (action->text() == unit)
-            QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
-                              menu->actionGeometry(action).center());
-    }
 }
 
 QStringList unitsOf(ZelDimensions::Unit unit)
@@ -107,18 +69,6 @@ private slots:
     void widthWithoutUnitIsZero();
     void widthOfADynamicUnitIsThatOfItsText();
     void modelHidesButNeverDisables();
-    void menuListsTheDimensionInOrder();
-    void everyDimensionHasAMenu_data();
-    void everyDimensionHasAMenu();
-    void choosingTellsTheChangeBeforeTheUser();
-    void choosingTheCurrentUnitTellsTheUserAloneOnPurpose();
-    void choosingByKeys();
-    void leavingTheMenuTellsNothing();
-    void chosenUnitReachesTheModelWithFlagFalse();
-    void labelWithoutUnitShowsNoMenu();
-    void dynamicUnitShowsNoMenu();
-    void keyboardShowsNoMenu();
-    void parentReceivesTheEventInEveryCase();
 };
 
 void tst_zelQtUnitLabel::cleanup()
@@ -336,168 +286,6 @@ void tst_zelQtUnitLabel::modelHidesButNeverDisables()
     line.mVisible = true;
     label.updateState(&meta, 0);
     QVERIFY(!label.isHidden());
-}
-
-void tst_zelQtUnitLabel::menuListsTheDimensionInOrder()
-{
-    ZelQtUnitLabel label(QStringLiteral("N"));
-    label.show();
-    QStringList shown;
-    const auto menu = onPopup<ZelQtContextMenu>([&](QMenu *menu) { shown = texts(menu); });
-    rightClick(&label);
-    QVERIFY(menu.ran());
-    QVERIFY(shown.size() > 2);
-    QCOMPARE(shown, unitsOf(ZelDimensions::Newton));
-}
-
-void tst_zelQtUnitLabel::everyDimensionHasAMenu_data()
-{
-    // The shortest list stands for one with a single unit, which the table of units doesn't hold:
-    // nothing asks for the length but for zero.
-    QTest::addColumn<int>("unit");
-    const int types = ZelDimensions::NoType;
-    for (int type = 0; type < types; ++type) {
-        const auto units = ZelDimensions::getList(static_cast<ZelDimensions::Type>(type));
-        if (units.size() <= 2)
-            QTest::addRow("dimension %d", type) << int(units.front());
-    }
-}
-
-void tst_zelQtUnitLabel::everyDimensionHasAMenu()
-{
-    QFETCH(int, unit);
-    ZelQtUnitLabel label;
-    label.checkUnit(static_cast<ZelDimensions::Unit>(unit), true);
-    label.show();
-    QStringList shown;
-    const auto menu = onPopup<ZelQtContextMenu>([&](QMenu *menu) { shown = texts(menu); });
-    rightClick(&label);
-    QVERIFY(menu.ran());
-    QCOMPARE(shown, unitsOf(label.mCurrentUnit));
-}
-
-void tst_zelQtUnitLabel::choosingTellsTheChangeBeforeTheUser()
-{
-    ZelQtUnitLabel label(QStringLiteral("mm"));
-    label.show();
-    EventRecorder recorder;
-    recordAll(recorder, label);
-    const auto menu =
-        onPopup<ZelQtContextMenu>([](QMenu *menu) { choose(menu, QStringLiteral("cm")); });
-    rightClick(&label);
-    QVERIFY(menu.ran());
-    QCOMPARE(recorder.take(),
-             QStringList({QStringLiteral("unitChanged(cm)"), QStringLiteral("unitChanged(mm, cm)"),
-                          QStringLiteral("changedByUser")}));
-    QCOMPARE(label.text(), QStringLiteral("cm"));
-}
-
-void tst_zelQtUnitLabel::choosingTheCurrentUnitTellsTheUserAloneOnPurpose()
-{
-    ZelQtUnitLabel label(QStringLiteral("mm"));
-    label.show();
-    EventRecorder recorder;
-    recordAll(recorder, label);
-    const auto menu =
-        onPopup<ZelQtContextMenu>([](QMenu *menu) { choose(menu, QStringLiteral("mm")); });
-    rightClick(&label);
-    QVERIFY(menu.ran());
-    QCOMPARE(recorder.take(), QStringList({QStringLiteral("changedByUser")}));
-}
-
-void tst_zelQtUnitLabel::choosingByKeys()
-{
-    ZelQtUnitLabel label(QStringLiteral("mm"));
-    label.show();
-    const auto menu = onPopup<ZelQtContextMenu>([](QMenu *menu) {
-        QTest::keyClick(menu, Qt::Key_Down);
-        QTest::keyClick(menu, Qt::Key_Down);
-        QTest::keyClick(menu, Qt::Key_Return);
-    });
-    rightClick(&label);
-    QVERIFY(menu.ran());
-    QCOMPARE(label.currentUnit(), unitsOf(ZelDimensions::Millimetre).at(1));
-}
-
-void tst_zelQtUnitLabel::leavingTheMenuTellsNothing()
-{
-    ZelQtUnitLabel label(QStringLiteral("mm"));
-    label.show();
-    EventRecorder recorder;
-    recordAll(recorder, label);
-    const auto menu =
-        onPopup<ZelQtContextMenu>([](QMenu *menu) { QTest::keyClick(menu, Qt::Key_Escape); });
-    rightClick(&label);
-    QVERIFY(menu.ran());
-    QCOMPARE(recorder.take(), QStringList());
-    QCOMPARE(label.currentUnit(), QStringLiteral("mm"));
-}
-
-void tst_zelQtUnitLabel::chosenUnitReachesTheModelWithFlagFalse()
-{
-    CountingLabel label;
-    label.setCurrentUnit(QStringLiteral("mm"), true);
-    label.mFlags.clear();
-    label.show();
-    const auto menu =
-        onPopup<ZelQtContextMenu>([](QMenu *menu) { choose(menu, QStringLiteral("m")); });
-    rightClick(&label);
-    QVERIFY(menu.ran());
-    QCOMPARE(label.mFlags, QList<bool>({false}));
-    QCOMPARE(label.mDefaultUnit, ZelDimensions::Millimetre);
-}
-
-namespace {
-
-// True when a context menu event of that kind opened any popup over the label.
-bool opensMenu(ZelQtUnitLabel &label, QContextMenuEvent::Reason reason)
-{
-    const auto popup = onPopup<QWidget>([](QWidget *) {});
-    rightClick(&label, reason);
-    return popup.ran();
-}
-
-} // namespace
-
-void tst_zelQtUnitLabel::labelWithoutUnitShowsNoMenu()
-{
-    ZelQtUnitLabel label;
-    label.show();
-    EventRecorder recorder;
-    recordAll(recorder, label);
-    QVERIFY(!opensMenu(label, QContextMenuEvent::Mouse));
-    QCOMPARE(recorder.take(), QStringList());
-}
-
-void tst_zelQtUnitLabel::dynamicUnitShowsNoMenu()
-{
-    ZelQtUnitLabel label(QStringLiteral("mm"));
-    label.show();
-    QVERIFY(opensMenu(label, QContextMenuEvent::Mouse));
-    label.mDefaultUnit = ZelDimensions::DynamicUnit;
-    QVERIFY(!opensMenu(label, QContextMenuEvent::Mouse));
-}
-
-void tst_zelQtUnitLabel::keyboardShowsNoMenu()
-{
-    ZelQtUnitLabel label(QStringLiteral("mm"));
-    label.show();
-    QVERIFY(!opensMenu(label, QContextMenuEvent::Keyboard));
-    QVERIFY(!opensMenu(label, QContextMenuEvent::Other));
-}
-
-void tst_zelQtUnitLabel::parentReceivesTheEventInEveryCase()
-{
-    Page page;
-    ZelQtUnitLabel label(QStringLiteral("mm"), &page);
-    page.show();
-    QVERIFY(opensMenu(label, QContextMenuEvent::Mouse));
-    QCOMPARE(page.mContextMenus, 1);
-    QVERIFY(!opensMenu(label, QContextMenuEvent::Keyboard));
-    QCOMPARE(page.mContextMenus, 2);
-    label.mDefaultUnit = ZelDimensions::DynamicUnit;
-    QVERIFY(!opensMenu(label, QContextMenuEvent::Mouse));
-    QCOMPARE(page.mContextMenus, 3);
 }
 
 QTEST_MAIN(tst_zelQtUnitLabel)
