@@ -23,7 +23,7 @@ void ZelQtNotepad::setup(ZelUIVarMultilineString *variable, AttrMap &attributes)
 
 void ZelQtNotepad::updateState(Meta *meta, int64_t id)
 {
-    ZelUINotepad::updateState(meta, id);
+    ZelUIObject::updateState(meta, id);
     setEnabled(mEnabled);
     setVisible(mVisible);
     setReadOnly(mEnabled && mReadOnly);

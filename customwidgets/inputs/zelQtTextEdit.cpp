@@ -38,7 +38,7 @@ void ZelQtTextEdit::finishSetup(const ZelUIVar *variable)
 
 void ZelQtTextEdit::updateState(Meta *meta, int64_t id)
 {
-    ZelUITextEdit::updateState(meta, id);
+    ZelUIInput::updateState(meta, id);
     setEnabled(mEnabled);
     setVisible(mVisible);
     setReadOnly(mEnabled && mReadOnly);

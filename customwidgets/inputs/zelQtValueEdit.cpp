@@ -211,7 +211,7 @@ void ZelQtValueEdit::getData(Meta *meta, int64_t id)
 
 void ZelQtValueEdit::setPriority(Meta *meta)
 {
-    ZelUIValueEdit::setPriority(meta);
+    ZelUIInput::setPriority(meta);
     updatePriority();
 }
 
