@@ -41,9 +41,22 @@ void ZelUIDialogButtonBox::setup(const ZelDomNode *node)
 
 void ZelUIDialogButtonBox::updateCalcState(bool succeeded)
 {
+    mCalcFailed = !succeeded;
+    enableAccept(succeeded);
+}
+
+void ZelUIDialogButtonBox::updateState(Meta *meta, int64_t id)
+{
+    ZelUIElement::updateState(meta, id);
+    if (mCalcFailed)
+        enableAccept(false);
+}
+
+void ZelUIDialogButtonBox::enableAccept(bool enabled)
+{
     for (const auto &[button, role] : mButtons) {
         if (role == Accept)
-            button->updateState(succeeded, button->mVisible);
+            button->updateState(enabled, button->mVisible);
     }
 }
 

@@ -16,8 +16,10 @@ public:
 
     using ZelUIElement::setup;
     virtual void setup(const ZelDomNode *node);
-    /// After a calculation: buttons with the accept role are enabled when it succeeded.
+    /// After a calculation: buttons with the accept role are enabled when it succeeded. They stay
+    /// disabled after a failed one, refreshes included, until the next that succeeds.
     virtual void updateCalcState(bool succeeded);
+    void updateState(Meta *meta, int64_t id) override;
     /// Index of the button in the box.
     virtual int addPushButton(ZelUIPushButton *button, ZelUIDialogButtonBox::ButtonRole role);
 
@@ -25,5 +27,8 @@ protected:
     void modelForget(ZelUIObject *child) override;
 
 private:
+    void enableAccept(bool enabled);
+
     std::vector<std::pair<ZelUIPushButton *, ButtonRole>> mButtons;
+    bool mCalcFailed = false;
 };

@@ -121,13 +121,20 @@ void ZelUIObject::updateState(Meta *meta, int64_t id)
 
 bool ZelUIObject::hasStateSource() const
 {
-    return mVariable || mModelParent || mEnabledIf || mVisibleIf || mReadOnlyIf || mAlwaysReadOnly;
+    return mVariable || mModelParent || mEnabledIf || mVisibleIf || mReadOnlyIf || mAlwaysReadOnly
+        || mHidden;
+}
+
+bool ZelUIObject::modelConditionsShow(const Meta &meta, int64_t id) const
+{
+    return (!mVisibleIf || holds(mVisibleIf, meta, id))
+        && (!mVariable || !mVariable->mVisibleIf || holds(mVariable->mVisibleIf, meta, id));
 }
 
 void ZelUIObject::computeState(const Meta &meta, int64_t id)
 {
     mEnabled = !mModelParent || mModelParent->mEnabled;
-    mVisible = !mModelParent || mModelParent->mVisible;
+    mVisible = !mHidden && (!mModelParent || mModelParent->mVisible);
     mReadOnly = mAlwaysReadOnly || (mModelParent && mModelParent->mReadOnly);
 
     const auto apply = [&](const auto &enabledIf, const auto &visibleIf, const auto &readOnlyIf) {

@@ -54,6 +54,9 @@ public:
     /// The conditions of another node of the same line, so that each is compiled once.
     void modelShareConditions(const ZelUIObject &other);
 
+    /// What the conditions of variable and node alone say of being visible.
+    bool modelConditionsShow(const Meta &meta, int64_t id) const;
+
     bool mEnabled = true;
     bool mVisible = true;
     bool mReadOnly = false;
@@ -66,6 +69,8 @@ protected:
     void modelFollowRole(bool follow) { mFollowsRole = follow; }
     /// For parts that show something computed, whatever their variable says.
     void modelAlwaysReadOnly(bool readOnly) { mAlwaysReadOnly = readOnly; }
+    /// Invisible from the next updateState on, whatever the conditions say.
+    void modelHide(bool hide) { mHidden = hide; }
 
     /// Component of the variable, from 0.
     int mComponent = 0;
@@ -86,4 +91,5 @@ private:
     int mAuthorItCode = -1;
     bool mFollowsRole = false;
     bool mAlwaysReadOnly = false;
+    bool mHidden = false;
 };

@@ -62,7 +62,7 @@ private:
     void makeLabels(ZelUiBuild &build, const Announced &announced);
     void makeUnitLabel(ZelUiBuild &build, const Announced &announced);
     void makeIconBox(ZelUiBuild &build, const Announced &announced);
-    bool hasVisibleInput() const;
+    bool showsAnInput(const Meta &meta, int64_t id) const;
     void syncUnit(const Meta &meta, int64_t id);
 
     std::unique_ptr<Announced> mAnnounced;

@@ -74,6 +74,7 @@ private slots:
     void unknownVariableLeavesTheLineOut();
     void conditionsOfTheNodes();
     void lineGoesWithItsLastVariable();
+    void hiddenLineDoesNotShowInBetween();
     void elementHandsItsStateToSpacerAndBox();
     void elementWalksItsParts();
     void iconButtons();
@@ -272,6 +273,38 @@ void tst_zelUIStdElement::lineGoesWithItsLastVariable()
     mask.mMeta.setBoolean(*first, 0, true, ZelOrigin::User);
     mask.refresh();
     QVERIFY(element->mInputs[0]->mVisible);
+}
+
+// A label that shows and hides again at each refresh would make the mask flicker.
+void tst_zelUIStdElement::hiddenLineDoesNotShowInBetween()
+{
+    struct Label : ZelUITextLabel
+    {
+        void updateState(Meta *meta, int64_t id) override
+        {
+            ZelUITextLabel::updateState(meta, id);
+            mVisibles << mVisible;
+        }
+        QVector<bool> mVisibles;
+    };
+    struct Labels : ZelUiPlainFactory
+    {
+        ZelUITextLabel *makeTextLabel(ZelUIAlignment) override { return &mLabel; }
+        Label mLabel;
+    };
+    Labels factory;
+    Mask mask;
+    number(mask, L"a")->mVisibleIf = condition(L"false", mask.mMeta);
+    ZelDomNode node(L"line");
+    node.setAttribute(L"text", L"Lasten");
+    node.addChild(L"var")->setAttribute(L"name", L"a");
+    ZelUiBuild build(mask.mMeta, factory, mask.mFaults, "");
+    ZelUIStdElement element;
+    element.modelSetupLine(&node);
+    element.modelMakeParts();
+    element.updateState(&mask.mMeta, 0);
+    element.updateState(&mask.mMeta, 0);
+    QCOMPARE(factory.mLabel.mVisibles, QVector<bool>({false, false}));
 }
 
 void tst_zelUIStdElement::elementHandsItsStateToSpacerAndBox()

@@ -318,6 +318,8 @@ void tst_zelUITabPage::buttonsOfADialog()
     for (const ZelUIItem *button : box->modelItems())
         enabled << button->mEnabled;
     QCOMPARE(enabled, QVector<bool>({false, true, true, true}));
+    mask.refresh();
+    QVERIFY(!box->modelItems()[0]->mEnabled);
     box->updateCalcState(true);
     QVERIFY(box->modelItems()[0]->mEnabled);
     {
