@@ -1,8 +1,10 @@
 #include "zelCalcModule.h"
 
+#include "internMessage.h"
 #include "zelDescription.h"
 #include "zelDomNode.h"
 #include "zelSchemaPasses_p.h"
+#include "zelUIVarChoice.h"
 
 #include <exception>
 
@@ -32,7 +34,7 @@ ZelCalcModule::ZelCalcModule()
                                    short current, ZelOrigin origin) {
         // A file brings the values of the alternative along, and the module knows what it does.
         if (mCanCalculate && origin == ZelOrigin::User)
-            choiceChanged(choice, former, current, id);
+            convert(choice, former, current, id);
     });
 }
 
@@ -40,6 +42,24 @@ ZelCalcModule::~ZelCalcModule() = default;
 
 void ZelCalcModule::choiceChanged(const ZelUIVarChoice &, short, short, int64_t)
 {
+}
+
+// What the user has just typed stays as it is, also when the module converts all of an alternative.
+void ZelCalcModule::convert(const ZelUIVarChoice &choice, short former, short current, int64_t id)
+{
+    const bool typing = choice.mBy == ZelUIVarChoice::Typing;
+    const ZelUIVar *typed = typing ? mMeta.lastTyped(choice, id) : nullptr;
+    std::vector<double> values;
+    for (int component = 0; typed && component < typed->componentCount(); ++component)
+        values.push_back(mMeta.real(*typed, id, component));
+    try {
+        choiceChanged(choice, former, current, id);
+    } catch (const std::exception &exception) {
+        internMessage(__FILE__, __LINE__, exception.what());
+    }
+    for (size_t component = 0; component < values.size(); ++component)
+        mMeta.setReal(*typed, id, static_cast<int>(component), values[component],
+                      ZelOrigin::Module);
 }
 
 void ZelCalcModule::bindHandles(const ZelDescription &description, ZelFaultList &faults)
@@ -68,7 +88,7 @@ void ZelCalcModule::addHandleFault(const ZelVarHandle &handle, ZelVarHandle::Mis
         place = root->attributeValuePlace(L"class");
     const std::string what = mismatch == ZelVarHandle::Missing ? "no variable"
         : mismatch == ZelVarHandle::Kind                       ? "another kind of variable"
-                                                               : "another unit";
+                                                               : "another unit of";
     const ZelFaultCode code = mismatch == ZelVarHandle::Missing ? ZelFaultCode::MissingHandle
         : mismatch == ZelVarHandle::Kind                        ? ZelFaultCode::WrongKind
                                                                 : ZelFaultCode::WrongUnit;

@@ -43,6 +43,7 @@ public:
 
 private:
     friend class ZelVarHandle;
+    void convert(const ZelUIVarChoice &choice, short former, short current, int64_t id);
     void addHandleFault(const ZelVarHandle &handle, ZelVarHandle::Mismatch mismatch,
                         const ZelDescription &description, ZelFaultList &faults) const;
 

@@ -111,11 +111,11 @@ constexpr Attribute boolean[]{
     {"initial", Bool, "What it starts with"},
 };
 constexpr Attribute textLine[]{
-    {"initial", Text, "What it starts with"},
+    {"initial", Value, "What it starts with"},
     {"placeholder", Text, "Shown in the empty field"},
 };
 constexpr Attribute notes[]{
-    {"initial", Text, "What it starts with"},
+    {"initial", Value, "What it starts with"},
 };
 constexpr Attribute function[]{
     {"function", Function, "Function of the module", required},
@@ -207,7 +207,7 @@ constexpr Attribute tableColumn[]{
     {"decimals", Integer, "Decimals that show", false, {}, 0, 15},
     {"bottom", Number, "Smallest value"},
     {"top", Number, "Largest value"},
-    {"initial", Text, "Cell of a new row"},
+    {"initial", Value, "Cell of a new row"},
     {"width", Integer, "Width in characters", false, {}, 1, 1000},
     {"list", Variable, "List variable whose entries it offers"},
     {"table", Word, "Table of the database"},

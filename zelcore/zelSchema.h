@@ -14,6 +14,7 @@ class ZelDomDocument;
 /// What the value of an attribute is.
 enum class ZelSchemaType {
     Text, ///< German text, or "#8460" for a number of the pool
+    Value, ///< text that is a value, which no translation touches
     Key, ///< key of a text in the translations
     NewName, ///< name that is given here: ASCII letters, digits, "_"
     Variable, ///< name of a variable

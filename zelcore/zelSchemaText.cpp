@@ -92,6 +92,8 @@ std::string zelSchemaTypeText(const ZelSchemaAttribute &attribute)
     switch (attribute.mType) {
     case ZelSchemaType::Text:
         return "a text";
+    case ZelSchemaType::Value:
+        return "a text that is not translated";
     case ZelSchemaType::Key:
         return "a key";
     case ZelSchemaType::NewName:

@@ -4,6 +4,7 @@
 #include "zelCalcModule.h"
 #include "zelParse_p.h"
 #include "zelUIMultiVar.h"
+#include "zelUIVarKinds.h"
 #include "zelUIVarLists.h"
 
 namespace {

@@ -108,3 +108,22 @@ void Meta::noteTyped(const ZelUIVar &variable, int64_t id)
     }
     pick(*choice, id, best, ZelOrigin::User);
 }
+
+const ZelUIVar *Meta::lastTyped(const ZelUIVarChoice &choice, int64_t id) const
+{
+    const Object *object = Private::owns(*this, choice) ? d->find(id) : nullptr;
+    const ZelUIVar *last = nullptr;
+    uint64_t lastTime = 0;
+    for (const Members &members : choice.mAlternatives) {
+        for (const ZelUIVar *member : members) {
+            const auto index = static_cast<size_t>(member->index());
+            const bool typed = object && Private::owns(*this, *member)
+                && index < object->mTyped.size() && object->mTyped[index] > lastTime;
+            if (typed) {
+                last = member;
+                lastTime = object->mTyped[index];
+            }
+        }
+    }
+    return last;
+}
