@@ -2,6 +2,7 @@
 
 #include "recorder.h"
 #include "zelQtCalcVarInput.h"
+#include "zelQtCustomButtons.h"
 #include "zelQtValueEdit.h"
 
 #include <QVector>
