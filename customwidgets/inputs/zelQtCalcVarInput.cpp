@@ -19,6 +19,11 @@ ZelQtCalcVarInput::ZelQtCalcVarInput(QWidget *parent)
 
 ZelQtCalcVarInput::~ZelQtCalcVarInput()
 {
+    // QWidget takes the focus from a field on its way out, and a pending edit is confirmed then:
+    // too late for the signals of this class.
+    const QList<QWidget *> children = findChildren<QWidget *>();
+    for (QWidget *child : children)
+        child->disconnect(this);
     // The spacer may be out of the layout, and then nobody else deletes it.
     mLayout->removeItem(mSpacer);
     delete mSpacer;

@@ -6,6 +6,7 @@
 #include "zelQtEditButton.h"
 #include "zelQtFormulaLabel.h"
 #include "zelQtUnitLabel.h"
+#include "zelQtValueEdit.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -43,6 +44,7 @@ private slots:
     void leavingWithoutChangeOnlyFinishesEditing();
     void disabledChangeSpeaksAtConfirmationOnly();
     void disabledConfirmationIsSilent();
+    void dyingLineIsSilent();
 
     // units
     void defaultUnitShowsInTheLabel();
@@ -309,6 +311,23 @@ void tst_zelQtSingleCalcVarInput::disabledConfirmationIsSilent()
     QTest::keyClick(page.field(0), Qt::Key_5);
     QVERIFY(page.leave());
     QCOMPARE(page.take(), lineChanged + lineFinished);
+}
+
+void tst_zelQtSingleCalcVarInput::dyingLineIsSilent()
+{
+    // The field loses the focus on the way out, with an edit that was not confirmed.
+    EventRecorder recorder;
+    {
+        ZelQtSingleCalcVarInput line;
+        recorder.record(&line, &ZelQtCalcVarInput::inputValueConfirmed,
+                        QStringLiteral("confirmed"));
+        recorder.record(&line, &ZelQtSingleCalcVarInput::editingFinished,
+                        QStringLiteral("finished"));
+        auto *field = line.findChild<ZelQtValueEdit *>();
+        QVERIFY(showAndActivate(&line) && focus(field));
+        QTest::keyClick(field, Qt::Key_1);
+    }
+    QCOMPARE(recorder.take(), QStringList());
 }
 
 void tst_zelQtSingleCalcVarInput::defaultUnitShowsInTheLabel()
