@@ -20,6 +20,11 @@ public:
             mTimer.stop();
             mRan = true;
             const QPointer<QWidget> guard(widget);
+            // The platform reports the window as active by an event. Processed after the window has
+            // gone it would take the focus from the field below.
+            QCoreApplication::processEvents();
+            if (!guard)
+                return;
             act(widget);
             if (guard && guard->isVisible())
                 guard->close();
