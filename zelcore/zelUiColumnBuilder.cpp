@@ -3,8 +3,11 @@
 #include "zelDomNode.h"
 #include "zelUIButtonBox.h"
 #include "zelUIColumn.h"
+#include "zelUIComboBox.h"
 #include "zelUIFlagElement.h"
 #include "zelUIImageElement.h"
+#include "zelUILubElement.h"
+#include "zelUIMatElement.h"
 #include "zelUINotepadElement.h"
 #include "zelUIOutputElement.h"
 #include "zelUIStdElement.h"
@@ -12,9 +15,13 @@
 #include "zelUITableElement.h"
 #include "zelUITextElement.h"
 #include "zelUIVarKinds.h"
+#include "zelUIVarLists.h"
 #include "zelUiBuild.h"
 #include "zelUiFactory.h"
 #include "zelUiParser.h"
+#include "zelUiParts_p.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -86,6 +93,10 @@ void ZelUiColumnBuilder::addVariable(const ZelDomNode &node)
         addNotepad(node, variable);
     else if (dynamic_cast<ZelUIVarTextButton *>(variable))
         addButton(node, variable);
+    else if (dynamic_cast<ZelUIVarMatList *>(variable))
+        addMaterial(node, variable);
+    else if (dynamic_cast<ZelUIVarLubList *>(variable))
+        addLubricant(node, variable);
     else if (dynamic_cast<ZelUIVarTable *>(variable))
         addTable(node, variable);
     else if (dynamic_cast<ZelUIVarImage *>(variable))
@@ -143,6 +154,42 @@ void ZelUiColumnBuilder::addButton(const ZelDomNode &node, ZelUIVar *variable)
     auto element = makeElement<ZelUIButtonBox>(node, variable);
     if (element->mButton)
         mColumn.addButtonElement(own(std::move(element)));
+}
+
+// The list of materials alone: a list of their types stands before it only in forms by hand, since
+// the variable says which types fit.
+void ZelUiColumnBuilder::addMaterial(const ZelDomNode &node, ZelUIVar *variable)
+{
+    auto *material = static_cast<ZelUIVarMatList *>(variable);
+    ZelUIComboBox *box = mBuild.factory().makeComboBox();
+    if (!box)
+        return;
+    AttrMap attributes = node.attributes();
+    box->setup(material, attributes, false);
+    if (material->mTypes.size() == 1)
+        box->mListKey = static_cast<uint64_t>(std::max<short>(material->mTypes.front(), 0));
+    auto element = makeElement<ZelUIMatElement>(node, variable);
+    element->mCombo2 = box;
+    element->mLabel1 = zelMakePrompt(mBuild, variable, attributes, &node);
+    const auto buttons = zelMakeIconButtons(mBuild, variable, attributes, 1);
+    element->mButton2 = buttons.empty() ? nullptr : buttons.front();
+    mColumn.addMatElement(own(std::move(element)));
+}
+
+void ZelUiColumnBuilder::addLubricant(const ZelDomNode &node, ZelUIVar *variable)
+{
+    ZelUIComboBox *box = mBuild.factory().makeComboBox();
+    if (!box)
+        return;
+    AttrMap attributes = node.attributes();
+    box->setup(static_cast<ZelUIVarLubList *>(variable), attributes, false, true);
+    auto element = makeElement<ZelUILubElement>(node, variable);
+    element->mCombo2 = box;
+    element->mLabel = zelMakePrompt(mBuild, variable, attributes, &node);
+    const auto buttons = zelMakeIconButtons(mBuild, variable, attributes, 2);
+    element->mButton2 = buttons.empty() ? nullptr : buttons[0];
+    element->mButton3 = buttons.size() < 2 ? nullptr : buttons[1];
+    mColumn.addLubElement(own(std::move(element)));
 }
 
 void ZelUiColumnBuilder::addTable(const ZelDomNode &node, ZelUIVar *variable)

@@ -26,6 +26,8 @@ private:
     void addText(const ZelDomNode &node, ZelUIVar *variable);
     void addNotepad(const ZelDomNode &node, ZelUIVar *variable);
     void addButton(const ZelDomNode &node, ZelUIVar *variable);
+    void addMaterial(const ZelDomNode &node, ZelUIVar *variable);
+    void addLubricant(const ZelDomNode &node, ZelUIVar *variable);
     void addTable(const ZelDomNode &node, ZelUIVar *variable);
     void addImage(const ZelDomNode &node, ZelUIVar *variable);
     void addOutput(const ZelDomNode &node);

@@ -126,21 +126,32 @@ ZelUITextLabel *zelMakePrompt(ZelUiBuild &build, ZelUIVar *variable, const AttrM
     return label;
 }
 
-ZelUIStdButtonBox *zelMakeIconBox(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &attributes)
+std::vector<ZelUIPushButton *> zelMakeIconButtons(ZelUiBuild &build, ZelUIVar *variable,
+                                                  const AttrMap &attributes, size_t limit)
 {
-    const auto names = ZelUiParser::words(zelAttribute(attributes, L"buttons"));
-    ZelUIStdButtonBox *box = names.empty() ? nullptr : build.factory().makeStdButtonBox();
-    if (!box)
-        return nullptr;
-    for (const zelWString &name : names) {
+    std::vector<ZelUIPushButton *> buttons;
+    for (const zelWString &name : ZelUiParser::words(zelAttribute(attributes, L"buttons"))) {
+        if (buttons.size() >= limit)
+            break;
         ZelUIPushButtonType type = ZelUIPushButtonType::Push;
         ZelUIPushButton *button =
             buttonType(name, type) ? build.factory().makeIconButton(type) : nullptr;
         if (!button)
             continue;
         setupIconButton(*button, type, name, variable, attributes);
-        box->modelAddButton(button);
+        buttons.push_back(button);
     }
+    return buttons;
+}
+
+ZelUIStdButtonBox *zelMakeIconBox(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &attributes)
+{
+    const bool wanted = !ZelUiParser::words(zelAttribute(attributes, L"buttons")).empty();
+    ZelUIStdButtonBox *box = wanted ? build.factory().makeStdButtonBox() : nullptr;
+    if (!box)
+        return nullptr;
+    for (ZelUIPushButton *button : zelMakeIconButtons(build, variable, attributes))
+        box->modelAddButton(button);
     return box;
 }
 

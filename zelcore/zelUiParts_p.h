@@ -24,7 +24,11 @@ ZelUIInput *zelMakeInput(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &a
 /// The prompt of a line: the text of the node, else that of the variable; null without a text.
 ZelUITextLabel *zelMakePrompt(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &attributes,
                               const ZelDomNode *node);
-/// The box with the buttons of the attribute "buttons"; null without the attribute.
+/// The icon buttons of the attribute "buttons", in its order, at most `limit` of them.
+std::vector<ZelUIPushButton *> zelMakeIconButtons(ZelUiBuild &build, ZelUIVar *variable,
+                                                  const AttrMap &attributes,
+                                                  size_t limit = size_t(-1));
+/// The box with these buttons; null without the attribute.
 ZelUIStdButtonBox *zelMakeIconBox(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &attributes);
 /// "left", "center" or "right", the first for anything else.
 ZelUIAlignment zelAlignment(const zelWString &name);

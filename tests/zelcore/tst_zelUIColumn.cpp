@@ -5,6 +5,8 @@
 #include "zelUIFlag.h"
 #include "zelUIFlagElement.h"
 #include "zelUIImageElement.h"
+#include "zelUILubElement.h"
+#include "zelUIMatElement.h"
 #include "zelUIMultiVar.h"
 #include "zelUINotepad.h"
 #include "zelUINotepadElement.h"
@@ -29,6 +31,16 @@ public:
     {
         ZelUIColumn::addStdElement(element);
         mCalls << "line " + toText(element->getName());
+    }
+    void addMatElement(ZelUIMatElement *element) override
+    {
+        ZelUIColumn::addMatElement(element);
+        mCalls << "material";
+    }
+    void addLubElement(ZelUILubElement *element) override
+    {
+        ZelUIColumn::addLubElement(element);
+        mCalls << "lubricant";
     }
     void addTextElement(ZelUITextElement *element) override
     {
@@ -88,6 +100,7 @@ struct Setup
         add<ZelUIVarImage>(L"picture", L"Bild");
         add<ZelUIVarTable>(L"loads", L"Kollektiv");
         add<ZelUIVarMatList>(L"material", L"Werkstoff");
+        add<ZelUIVarLubList>(L"lubricant", L"Schmierstoff");
         build(xml);
     }
     template <class Variable> void add(const wchar_t *name, const wchar_t *text)
@@ -113,6 +126,7 @@ class tst_zelUIColumn : public QObject
 private slots:
     void gridConstants();
     void kindOfTheVariablePicksTheElement();
+    void materialsAndLubricantsHaveLinesOfTheirOwn();
     void textsAreAligned();
     void textsOfTheNodes();
     void viewsTakeSpanAndRoom();
@@ -147,6 +161,23 @@ void tst_zelUIColumn::kindOfTheVariablePicksTheElement()
                           "table 0 6", "line ", "finish"}));
     QCOMPARE(setup.mColumn->modelElements().size(), size_t(11));
     QCOMPARE(setup.mMask.faultPlaces(), QStringList());
+}
+
+void tst_zelUIColumn::materialsAndLubricantsHaveLinesOfTheirOwn()
+{
+    const Setup setup("<column><var name='material' buttons='database info'/>"
+                      "<var name='lubricant' buttons='database info' text='Öl'/></column>");
+    QCOMPARE(setup.mColumn->mCalls, QStringList({"material", "lubricant", "finish"}));
+    const auto &elements = setup.mColumn->modelElements();
+    const auto *material = dynamic_cast<ZelUIMatElement *>(elements[0]);
+    QVERIFY(material && material->mCombo2 && material->mLabel1 && material->mButton2);
+    QVERIFY(!material->mCombo1 && !material->mButton1 && !material->mLabel2);
+    QCOMPARE(toText(material->mLabel1->getText()), QString("Werkstoff"));
+    QCOMPARE(material->modelItems().size(), size_t(3));
+    const auto *lubricant = dynamic_cast<ZelUILubElement *>(elements[1]);
+    QVERIFY(lubricant && lubricant->mCombo2 && lubricant->mButton2 && lubricant->mButton3);
+    QCOMPARE(toText(lubricant->mLabel->getText()), QString("Öl"));
+    QCOMPARE(lubricant->modelItems().size(), size_t(4));
 }
 
 void tst_zelUIColumn::textsAreAligned()
@@ -207,10 +238,6 @@ void tst_zelUIColumn::kindsThatTheFactoryDoesNotKnowAreLeftOut()
     column.setup(document.root());
     QCOMPARE(column.mCalls, QStringList("finish"));
     QVERIFY(mask.mFaults.empty());
-
-    // Materials have no line of their own yet.
-    const Setup setup("<column><var name='material'/></column>");
-    QCOMPARE(setup.mColumn->mCalls, QStringList("finish"));
 }
 
 void tst_zelUIColumn::faultsHavePlaces()
