@@ -1,12 +1,11 @@
 #include "zelQtParentDialog.h"
 
 #include "zelQtCalcVarInput.h"
-#include "zelQtHostServices_p.h"
-#include "zelQtWidgetHelpers_p.h"
-
 #include "zelQtDialogButtonBox.h"
+#include "zelQtHostServices_p.h"
 #include "zelQtLineEdit.h"
 #include "zelQtNotepad.h"
+#include "zelQtWidgetHelpers_p.h"
 
 #include <QApplication>
 #include <QKeyEvent>
