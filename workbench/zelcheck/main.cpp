@@ -1,0 +1,13 @@
+#include "zelCheck.h"
+#include "zelModuleRegistry.h"
+
+#include <iostream>
+
+// Checks and calculates descriptions without a display. Modules of the workbench are registered
+// here.
+int main(int argc, char *argv[])
+{
+    const ZelModuleRegistry registry;
+    return zelCheckMain(std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr,
+                        registry);
+}
