@@ -99,6 +99,8 @@ private slots:
     void otherObjectShowsItsOwnValues();
     void whatBecomesEnabledFillsAtOnce();
     void faultsOfTheBuildNameTheFile();
+    void whatTheCheckLeavesBuildsWithoutFaults_data();
+    void whatTheCheckLeavesBuildsWithoutFaults();
 };
 
 void tst_zelDriver::cleanup()
@@ -373,6 +375,57 @@ void tst_zelDriver::faultsOfTheBuildNameTheFile()
     QCOMPARE(int(faults[0].mCode), int(ZelFaultCode::UnknownName));
     QCOMPARE(faults[0].mFile, std::string("m.xml"));
     QCOMPARE(faults[0].mLine, 2);
+}
+
+void tst_zelDriver::whatTheCheckLeavesBuildsWithoutFaults_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("damage");
+    for (const char *file : {"sum.xml", "bearing.xml"}) {
+        QTest::addRow("%s cut", file) << file << 0;
+        QTest::addRow("%s neighbours swapped", file) << file << 1;
+        QTest::addRow("%s word doubled", file) << file << 2;
+        QTest::addRow("%s letter exchanged", file) << file << 3;
+    }
+}
+
+void tst_zelDriver::whatTheCheckLeavesBuildsWithoutFaults()
+{
+    QFETCH(QString, file);
+    QFETCH(int, damage);
+    QFile source(TEST_DATA_DIR "/" + file);
+    QVERIFY(source.open(QIODevice::ReadOnly));
+    const std::string bytes = source.readAll().toStdString();
+    const ZelModuleRegistry registry = sumRegistry();
+    size_t tried = 0;
+    size_t faulty = 0;
+    for (size_t at = 0; at + 1 < bytes.size(); at += damage == 0 ? 1 : 3) {
+        ++tried;
+        std::string damaged = bytes;
+        if (damage == 0)
+            damaged.resize(at);
+        else if (damage == 1)
+            std::swap(damaged[at], damaged[at + 1]);
+        else if (damage == 2)
+            damaged.insert(at, damaged.substr(at, bytes.find_first_of(" >", at) - at + 1));
+        else
+            damaged[at] = static_cast<char>("xA0 \"<"[at % 6]);
+        ZelFaultList faults;
+        const auto loaded =
+            zelLoadModule(ZelDescription::fromText(damaged, "m.xml", faults), registry, faults);
+        const size_t found = faults.size();
+        ZelUiPlainFactory factory;
+        ZelMask mask(*loaded, factory, faults);
+        mask.calculate();
+        mask.retranslate();
+        faulty += found > 0 ? 1 : 0;
+        if (faults.size() != found)
+            QFAIL(qPrintable(QString("byte %1: %2")
+                                 .arg(at)
+                                 .arg(QString::fromStdString(faults.back().toString()))));
+    }
+    // Damage that hits white space or a text is none.
+    QVERIFY(faulty > tried / 3);
 }
 
 QTEST_GUILESS_MAIN(tst_zelDriver)
