@@ -69,11 +69,21 @@ static double correctionFactor(double index, SpringCorrection correction)
     return (index + 0.5) / (index - 0.75);
 }
 
-static double solidLength(const SpringInput &input, const SpringValues &values)
+static double totalCoils(const SpringInput &input)
+{
+    return input.mTotalCoils.value_or(input.mActiveCoils + (isCold(input) ? 2 : 1.5));
+}
+
+static double largestWireDiameter(const SpringInput &input)
+{
+    return input.mLargestWireDiameter.value_or(input.mWireDiameter);
+}
+
+double springSolidLength(const SpringInput &input)
 {
     const bool ground = input.mEnds == SpringEnds::Ground;
     const double more = isCold(input) ? (ground ? 0 : 1.5) : (ground ? -0.3 : 1.1);
-    return (values.mTotalCoils + more) * values.mLargestWireDiameter;
+    return (totalCoils(input) + more) * largestWireDiameter(input);
 }
 
 static double springRate(const SpringInput &input, double shearModulus)
@@ -108,8 +118,8 @@ static void setGeometry(SpringValues &values, const SpringInput &input)
 {
     const double wire = input.mWireDiameter;
     const double coil = input.mCoilDiameter;
-    values.mTotalCoils = input.mTotalCoils.value_or(input.mActiveCoils + (isCold(input) ? 2 : 1.5));
-    values.mLargestWireDiameter = input.mLargestWireDiameter.value_or(wire);
+    values.mTotalCoils = totalCoils(input);
+    values.mLargestWireDiameter = largestWireDiameter(input);
     values.mIndex = coil / wire;
     values.mOuterDiameter = coil + wire;
     values.mInnerDiameter = coil - wire;
@@ -117,7 +127,7 @@ static void setGeometry(SpringValues &values, const SpringInput &input)
     values.mRate = springRate(input, values.mShearModulus);
     values.mSmallestGap = smallestGap(input);
 
-    const double solid = solidLength(input, values);
+    const double solid = springSolidLength(input);
     values.mSolid = pointAt(input.mFreeLength - solid, input, values);
     values.mSolid.mLength = solid; // not by way of the deflection, which rounds
     values.mUsable = pointAt(input.mFreeLength - solid - values.mSmallestGap, input, values);

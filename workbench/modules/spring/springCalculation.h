@@ -169,6 +169,9 @@ struct SpringResult
 /// Depends on its input alone. Infinite values and NaN are errors, as is a result that overflows.
 SpringResult calculateSpring(const SpringInput &input);
 
+/// L_c. It needs no spring rate, so that a message can name it where there are no results.
+double springSolidLength(const SpringInput &input);
+
 /// Fills the pair of the working range that is not in use from the one that is, and changes to it;
 /// the working range stays the same. Without a spring rate (an input is missing or wrong) nothing
 /// changes and the answer is false.

@@ -179,25 +179,33 @@ bool springValuesFinite(const SpringValues &values)
     return true;
 }
 
+SpringLimits springLimits(SpringCoiling coiling)
+{
+    if (coiling == SpringCoiling::Hot)
+        return {3, 12, 3, 8, 100};
+    return {4, 20, 2, 0, 20};
+}
+
 static void warnAboutGeometry(Findings &findings, const SpringInput &input, double index)
 {
-    const bool hot = isHot(input);
-    findings.warnIf(hot ? outside(index, 3, 12) : outside(index, 4, 20),
+    const SpringLimits limits = springLimits(input.mCoiling);
+    const bool cold = !isHot(input);
+    findings.warnIf(outside(index, limits.mSmallestIndex, limits.mLargestIndex),
                     SpringMessage::SpringIndexUnusual, {Field::CoilDiameter, Field::WireDiameter});
-    findings.warnIf(input.mActiveCoils < (hot ? 3 : 2), SpringMessage::FewActiveCoils,
+    findings.warnIf(input.mActiveCoils < limits.mFewestActiveCoils, SpringMessage::FewActiveCoils,
                     {Field::ActiveCoils});
-    findings.warnIf(hot ? outside(input.mWireDiameter, 8, 100) : input.mWireDiameter > 20,
+    findings.warnIf(outside(input.mWireDiameter, limits.mSmallestWire, limits.mLargestWire),
                     SpringMessage::WireDiameterUnusual, {Field::WireDiameter});
-    // The two limits of size are those of cold coiling. A hot coiled spring of thick wire is always
-    // wider: three times a wire of 100 mm is 300 mm.
-    findings.warnIf(!hot && input.mCoilDiameter > 200, SpringMessage::CoilDiameterLarge,
-                    {Field::CoilDiameter});
-    findings.warnIf(!hot && input.mFreeLength > 630, SpringMessage::FreeLengthLarge,
-                    {Field::FreeLength});
-    findings.warnIf(outside(input.mSeating, 0.5, 2), SpringMessage::SeatingUnusual,
-                    {Field::Seating});
-    findings.warnIf(outside(input.mTemperature, -40, 120), SpringMessage::TemperatureUnusual,
-                    {Field::Temperature});
+    findings.warnIf(cold && input.mCoilDiameter > SpringLimits::largestCoil,
+                    SpringMessage::CoilDiameterLarge, {Field::CoilDiameter});
+    findings.warnIf(cold && input.mFreeLength > SpringLimits::largestFreeLength,
+                    SpringMessage::FreeLengthLarge, {Field::FreeLength});
+    findings.warnIf(
+        outside(input.mSeating, SpringLimits::smallestSeating, SpringLimits::largestSeating),
+        SpringMessage::SeatingUnusual, {Field::Seating});
+    findings.warnIf(outside(input.mTemperature, SpringLimits::lowestTemperature,
+                            SpringLimits::highestTemperature),
+                    SpringMessage::TemperatureUnusual, {Field::Temperature});
 }
 
 std::vector<SpringFinding> springWarnings(const SpringInput &input, const SpringValues &values)
