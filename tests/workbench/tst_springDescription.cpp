@@ -15,8 +15,8 @@ private slots:
     void everyAlternativeNamesVariables();
     void everyUnitIsKnown_data();
     void everyUnitIsKnown();
-    void everyConditionNamesAListAndItsEntry_data();
-    void everyConditionNamesAListAndItsEntry();
+    void everyConditionNamesVariablesAndEntries_data();
+    void everyConditionNamesVariablesAndEntries();
     void everyTextHasGermanAndEnglish_data();
     void everyTextHasGermanAndEnglish();
 
@@ -93,7 +93,7 @@ QStringList tst_springDescription::values(const QString &parent, const QString &
 
 QStringList tst_springDescription::texts() const
 {
-    QStringList found = values({}, "text");
+    QStringList found = values({}, "text") + values({}, "status");
     found.removeDuplicates();
     return found;
 }
@@ -113,6 +113,10 @@ void tst_springDescription::everyVariableHasOnePlaceInTheMask()
     QStringList variables =
         values("variables", "name", {"real", "int", "bool", "list", "reallist"});
     QStringList placed = values({}, "name", {"var"});
+    QVERIFY(values({}, "class", {"external"}).contains("InstallationForm"));
+    placed << "DH"
+           << "phi"
+           << "room"; // fields of that form
     variables.sort();
     placed.sort();
     QCOMPARE(placed, variables);
@@ -142,7 +146,7 @@ void tst_springDescription::everyUnitIsKnown()
     QVERIFY(ZelDimensions::getUnit(unit.toStdWString()) != ZelDimensions::NoUnit);
 }
 
-void tst_springDescription::everyConditionNamesAListAndItsEntry_data()
+void tst_springDescription::everyConditionNamesVariablesAndEntries_data()
 {
     QTest::addColumn<QString>("condition");
     QStringList conditions = values({}, "enabled") + values({}, "visible") + values({}, "readonly");
@@ -151,12 +155,17 @@ void tst_springDescription::everyConditionNamesAListAndItsEntry_data()
         QTest::newRow(qPrintable(condition)) << condition;
 }
 
-void tst_springDescription::everyConditionNamesAListAndItsEntry()
+void tst_springDescription::everyConditionNamesVariablesAndEntries()
 {
     QFETCH(QString, condition);
-    const auto match = QRegularExpression("^(\\w+) (==|!=) '(\\w+)'$").match(condition);
-    QVERIFY(match.hasMatch());
-    QVERIFY(mEntries.value(match.captured(1)).contains(match.captured(3)));
+    const QStringList numbers = values("variables", "name", {"real"});
+    for (const QString &part : condition.split(" or ")) {
+        const auto entry = QRegularExpression("^(\\w+) (==|!=) '(\\w+)'$").match(part);
+        const auto number = QRegularExpression("^(\\w+) > 0$").match(part);
+        QVERIFY2(number.hasMatch() ? numbers.contains(number.captured(1))
+                                   : mEntries.value(entry.captured(1)).contains(entry.captured(3)),
+                 qPrintable(part));
+    }
 }
 
 void tst_springDescription::everyTextHasGermanAndEnglish_data()
