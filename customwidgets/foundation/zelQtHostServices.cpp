@@ -18,11 +18,7 @@ void resizeUnsizedWindow(QWidget *window)
 {
     if (!window->isWindow() || window->testAttribute(Qt::WA_Resized))
         return;
-    const Qt::WindowStates state = window->windowState();
     window->adjustSize();
-    // Resizing ends a maximized state until the window system reports it back.
-    if (window->windowState() != state)
-        window->setWindowState(state);
     // The size is still nobody's choice.
     window->setAttribute(Qt::WA_Resized, false);
 }

@@ -252,6 +252,7 @@ void tst_zelQtDialog::unsizedDialogIsWideEnoughForItsPrompts()
     dialog.add(first);
     dialog.add(second);
     dialog.show();
+    QCoreApplication::sendPostedEvents();
     const auto *prompt = first->findChild<ZelQtAdvancedLabel *>();
     QVERIFY(prompt->width() >= prompt->sizeHint().width());
     QVERIFY(!dialog.testAttribute(Qt::WA_Resized));

@@ -190,6 +190,7 @@ void tst_zelQtHostServices::unsizedWindowIsWideEnoughForItsPrompts()
         host.mFirst->setPrompt(QStringLiteral("A longer prompt"));
         host.mSecond->setFormula(QStringLiteral("F<sub>max, total</sub>"));
         host.show();
+        QCoreApplication::sendPostedEvents();
         const auto *prompt = host.mFirst->template findChild<ZelQtAdvancedLabel *>();
         QVERIFY2(prompt->width() >= prompt->sizeHint().width(),
                  qPrintable(QString::number(prompt->width())));
