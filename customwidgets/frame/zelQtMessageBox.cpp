@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPixmap>
+#include <QPointer>
 
 namespace {
 
@@ -49,10 +50,13 @@ int ZelQtMessageBox::show(QMessageBox::Icon icon, const QString &text, QWidget *
     // The box can outlive the override cursor of a calculation that it interrupts, so the arrow is
     // a level of its own, and exactly this level goes at the end.
     QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
-    QMessageBox box(parent ? parent : QApplication::activeWindow());
+    // On the heap: it goes with its parent when that is deleted while it is open. The answer is
+    // then 0, which is no button.
+    const QPointer<QMessageBox> box(
+        new QMessageBox(parent ? parent : QApplication::activeWindow()));
     const QString file = iconFile(icon);
     if (!file.isEmpty())
-        box.setIconPixmap(QPixmap(file));
+        box->setIconPixmap(QPixmap(file));
     QString title;
     switch (icon) {
     case QMessageBox::Information:
@@ -71,10 +75,11 @@ int ZelQtMessageBox::show(QMessageBox::Icon icon, const QString &text, QWidget *
         title = tr("Meldung");
         break;
     }
-    box.setWindowTitle(title);
-    box.setText(checkLineBreak(text));
-    box.setStandardButtons(buttons);
-    const int answer = box.exec();
+    box->setWindowTitle(title);
+    box->setText(checkLineBreak(text));
+    box->setStandardButtons(buttons);
+    const int answer = box->exec();
+    delete box.data();
     QGuiApplication::restoreOverrideCursor();
     return answer;
 }

@@ -1,5 +1,7 @@
 #include "zelQtMessageBox.h"
 
+#include "modal.h"
+
 #include <QtTest>
 #include <QtWidgets>
 
@@ -65,6 +67,7 @@ private slots:
     void escapeAnswersNoOrCancel();
     void arrowCursorLiesOverTheBoxAlone();
     void nullParentMeansTheActiveWindow();
+    void parentMayGoWhileTheBoxIsOpen();
     void markupIsGuessedSoATagInAFileNameIsMeantToShowAsMarkup();
 };
 
@@ -267,6 +270,16 @@ void tst_zelQtMessageBox::nullParentMeansTheActiveWindow()
     const auto seen = answerWith(QMessageBox::Ok);
     ZelQtMessageBox::information("t");
     QCOMPARE(seen->mParent, &window);
+}
+
+void tst_zelQtMessageBox::parentMayGoWhileTheBoxIsOpen()
+{
+    QPointer<QWidget> parent(new QWidget);
+    const auto box = onModal<QMessageBox>([&](QMessageBox *) { delete parent.data(); });
+    QCOMPARE(ZelQtMessageBox::question("t", parent), 0);
+    QVERIFY(box.ran());
+    QVERIFY(!parent);
+    QVERIFY(!QGuiApplication::overrideCursor());
 }
 
 void tst_zelQtMessageBox::markupIsGuessedSoATagInAFileNameIsMeantToShowAsMarkup()
