@@ -3,6 +3,7 @@
 #include "zelQtConversions.h"
 #include "zelQtFormelanzeige.h"
 #include "zelQtLabelState_p.h"
+#include "zelQtOwnPopup_p.h"
 #include "zelQtWidgetHelpers_p.h"
 
 #include <QContextMenuEvent>
@@ -51,8 +52,11 @@ void ZelQtFormulaLabel::setData(Meta *meta, int64_t id)
 
 void ZelQtFormulaLabel::contextMenuEvent(QContextMenuEvent *event)
 {
-    if (event->reason() == QContextMenuEvent::Mouse)
-        ZelQtFormelanzeige(this).exec(event->globalPos());
+    if (event->reason() == QContextMenuEvent::Mouse
+        && !execOwnPopup(new ZelQtFormelanzeige(this), event->globalPos())) {
+        event->accept(); // else Qt asks the label, which is gone, for its parent
+        return;
+    }
     // The parent receives the event as well.
     QWidget::contextMenuEvent(event);
 }

@@ -6,6 +6,7 @@
 #include "zelQtWidgetHelpers_p.h"
 
 #include <QContextMenuEvent>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -75,8 +76,10 @@ bool ZelQtUnitLabel::setUnit(ZelDimensions::Unit unit, bool defaultToo)
     updateUnit();
     const QString newUnit = currentUnit();
     if (newUnit != oldUnit) {
+        const QPointer<ZelQtUnitLabel> guard(this); // listeners may build the mask anew
         Q_EMIT unitChanged(newUnit);
-        Q_EMIT unitChanged(oldUnit, newUnit);
+        if (guard)
+            Q_EMIT unitChanged(oldUnit, newUnit);
     }
     return true;
 }
@@ -102,22 +105,34 @@ void ZelQtUnitLabel::updateUnit()
 void ZelQtUnitLabel::contextMenuEvent(QContextMenuEvent *event)
 {
     const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
-    if (byMouse && mDefaultUnit != ZelDimensions::DynamicUnit)
-        execMenu(event->globalPos());
+    if (byMouse && mDefaultUnit != ZelDimensions::DynamicUnit) {
+        // The mask may go while the menu is open, or because of the new unit.
+        const QPointer<ZelQtUnitLabel> guard(this);
+        const QString chosen = chosenInMenu(event->globalPos());
+        if (guard && !chosen.isEmpty())
+            setCurrentUnit(chosen, false);
+        if (guard && !chosen.isEmpty())
+            Q_EMIT changedByUser();
+        if (!guard) {
+            event->accept(); // else Qt asks the label for its parent
+            return;
+        }
+    }
     // The parent receives the event as well, whatever the menu did.
     QWidget::contextMenuEvent(event);
 }
 
-void ZelQtUnitLabel::execMenu(const QPoint &globalPos)
+QString ZelQtUnitLabel::chosenInMenu(const QPoint &globalPos)
 {
     const std::vector<zelWString> units = getUnitStringList();
     if (units.empty())
-        return;
-    ZelQtContextMenu menu(this);
+        return QString();
+    // On the heap: it goes with the label when that is deleted meanwhile.
+    const QPointer<ZelQtContextMenu> menu(new ZelQtContextMenu(this));
     for (const zelWString &unit : units)
-        menu.addAction(toQString(unit));
-    if (const QAction *chosen = menu.exec(globalPos)) {
-        setCurrentUnit(chosen->text(), false);
-        Q_EMIT changedByUser();
-    }
+        menu->addAction(toQString(unit));
+    const QAction *chosen = menu->exec(globalPos);
+    const QString text = menu && chosen ? chosen->text() : QString();
+    delete menu.data();
+    return text;
 }

@@ -47,5 +47,5 @@ protected:
 
 private:
     void updateUnit();
-    void execMenu(const QPoint &globalPos);
+    QString chosenInMenu(const QPoint &globalPos);
 };

@@ -5,6 +5,7 @@
 #include "zelQtConversions.h"
 #include "zelQtDefaultDecimals_p.h"
 #include "zelQtFormeleingabe.h"
+#include "zelQtOwnPopup_p.h"
 #include "zelQtSaturate_p.h"
 #include "zelQtWidgetHelpers_p.h"
 #include "zelQtWinkeleingabe.h"
@@ -236,10 +237,8 @@ void ZelQtValueEdit::contextMenuEvent(QContextMenuEvent *event)
     if (mCurrentUnit == ZelDimensions::DegreeAngle) {
         const double degrees =
             ZelDimensions::changeUnit(mValue, mDefaultUnit, ZelDimensions::DegreeAngle);
-        ZelQtWinkeleingabe popup(this, degrees);
-        popup.exec(event->globalPos());
+        execOwnPopup(new ZelQtWinkeleingabe(this, degrees), event->globalPos());
     } else {
-        ZelQtFormeleingabe popup(this, text());
-        popup.exec(event->globalPos());
+        execOwnPopup(new ZelQtFormeleingabe(this, text()), event->globalPos());
     }
 }

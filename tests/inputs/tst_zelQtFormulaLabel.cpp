@@ -47,6 +47,7 @@ private slots:
     void acceptHidesThePopup();
     void keyboardShowsNoPopup();
     void parentReceivesTheEventTooOnPurpose();
+    void labelMayGoWhileThePopupIsOpen();
 };
 
 void tst_zelQtFormulaLabel::textOfTheConstructor()
@@ -187,6 +188,18 @@ void tst_zelQtFormulaLabel::parentReceivesTheEventTooOnPurpose()
     rightClick(&label, QContextMenuEvent::Mouse);
     QVERIFY(popup.ran());
     QCOMPARE(page.mContextMenus, 2);
+}
+
+void tst_zelQtFormulaLabel::labelMayGoWhileThePopupIsOpen()
+{
+    Page page;
+    QPointer<ZelQtFormulaLabel> label(new ZelQtFormulaLabel(symbol, &page));
+    page.show();
+    const auto popup = onPopup<ZelQtFormelanzeige>([&](QWidget *) { delete label.data(); });
+    rightClick(label);
+    QVERIFY(popup.ran());
+    QVERIFY(!label);
+    QCOMPARE(page.mContextMenus, 0);
 }
 
 QTEST_MAIN(tst_zelQtFormulaLabel)

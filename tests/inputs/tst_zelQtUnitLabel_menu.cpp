@@ -100,6 +100,9 @@ private slots:
     void dynamicUnitShowsNoMenu();
     void keyboardShowsNoMenu();
     void parentReceivesTheEventTooOnPurpose();
+    void labelMayGoWhileTheMenuIsOpen();
+    void labelMayGoAtTheNewUnit_data();
+    void labelMayGoAtTheNewUnit();
 };
 
 void tst_zelQtUnitLabel_menu::menuListsTheDimensionInOrder()
@@ -250,6 +253,51 @@ void tst_zelQtUnitLabel_menu::parentReceivesTheEventTooOnPurpose()
     label.mDefaultUnit = ZelDimensions::DynamicUnit;
     QVERIFY(!opensMenu(label, QContextMenuEvent::Mouse));
     QCOMPARE(page.mContextMenus, 3);
+}
+
+// The parent must not be asked either: Qt would look for it at the label.
+void tst_zelQtUnitLabel_menu::labelMayGoWhileTheMenuIsOpen()
+{
+    Page page;
+    QPointer<ZelQtUnitLabel> label(new ZelQtUnitLabel(QStringLiteral("mm"), &page));
+    page.show();
+    const auto menu = onPopup<ZelQtContextMenu>([&](QMenu *) { delete label.data(); });
+    rightClick(label);
+    QVERIFY(menu.ran());
+    QVERIFY(!label);
+    QCOMPARE(page.mContextMenus, 0);
+}
+
+void tst_zelQtUnitLabel_menu::labelMayGoAtTheNewUnit_data()
+{
+    QTest::addColumn<bool>("atTheFirstSignal");
+    QTest::newRow("unitChanged(new)") << true;
+    QTest::newRow("unitChanged(old, new)") << false;
+}
+
+void tst_zelQtUnitLabel_menu::labelMayGoAtTheNewUnit()
+{
+    QFETCH(bool, atTheFirstSignal);
+    Page page;
+    QPointer<ZelQtUnitLabel> label(new ZelQtUnitLabel(QStringLiteral("mm"), &page));
+    EventRecorder recorder;
+    recordAll(recorder, *label);
+    const auto goAway = [&label] { delete label.data(); };
+    if (atTheFirstSignal)
+        connect(label, qOverload<QString>(&ZelQtUnitLabel::unitChanged), &page, goAway);
+    else
+        connect(label, qOverload<QString, QString>(&ZelQtUnitLabel::unitChanged), &page, goAway);
+    page.show();
+    const auto menu =
+        onPopup<ZelQtContextMenu>([](QMenu *menu) { choose(menu, QStringLiteral("cm")); });
+    rightClick(label);
+    QVERIFY(menu.ran());
+    QVERIFY(!label);
+    QStringList expected{QStringLiteral("unitChanged(cm)")};
+    if (!atTheFirstSignal)
+        expected.append(QStringLiteral("unitChanged(mm, cm)"));
+    QCOMPARE(recorder.take(), expected);
+    QCOMPARE(page.mContextMenus, 0);
 }
 
 QTEST_MAIN(tst_zelQtUnitLabel_menu)

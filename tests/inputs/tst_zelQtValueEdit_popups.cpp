@@ -21,6 +21,8 @@ private slots:
     void angleInAnotherUnitOpensTheFormula();
     void readOnlyFieldLeavesTheEventToItsParent();
     void keyboardLeavesTheEventToItsParent();
+    void fieldMayGoWhileItsPopupIsOpen_data();
+    void fieldMayGoWhileItsPopupIsOpen();
 };
 
 namespace {
@@ -129,6 +131,26 @@ void tst_zelQtValueEdit_popups::keyboardLeavesTheEventToItsParent()
     sendContextMenu(field, QPoint(3, 4), QContextMenuEvent::Other);
     QCOMPARE(parent.mCount, 2);
     QVERIFY(!popup.ran());
+}
+
+void tst_zelQtValueEdit_popups::fieldMayGoWhileItsPopupIsOpen_data()
+{
+    QTest::addColumn<QString>("unit");
+    QTest::newRow("formula") << "mm";
+    QTest::newRow("angle") << "°";
+}
+
+void tst_zelQtValueEdit_popups::fieldMayGoWhileItsPopupIsOpen()
+{
+    QFETCH(QString, unit);
+    Parent parent;
+    QPointer<ZelQtValueEdit> field(new ZelQtValueEdit(unit, &parent));
+    QVERIFY(showAndActivate(&parent));
+    const auto popup = onPopup<QMenu>([&](QMenu *) { delete field.data(); });
+    sendContextMenu(*field);
+    QVERIFY(popup.ran());
+    QVERIFY(!field);
+    QCOMPARE(parent.mCount, 0);
 }
 
 QTEST_MAIN(tst_zelQtValueEdit_popups)
