@@ -39,7 +39,8 @@ void ZelUIFlagElement::modelMakeParts()
             }
             AttrMap attributes = announced->mAttributes;
             mFlag->setup(announced->mVariable, attributes);
-            mIconBox = zelMakeIconBox(*build, announced->mVariable, announced->mAttributes);
+            mIconBox =
+                zelMakeIconBox(*build, announced->mVariable, announced->mAttributes, modelNode());
         }
     }
     modelAdoptParts();

@@ -1,5 +1,6 @@
 #include "zelUIPushButton.h"
 
+#include "zelButtonTips_p.h"
 #include "zelDomNode.h"
 #include "zelUIVarKinds.h"
 #include "zelUIVarLists.h"
@@ -15,6 +16,8 @@ ZelUIPushButton::~ZelUIPushButton() = default;
 void ZelUIPushButton::setup(ZelUIVar *variable, AttrMap &attributes)
 {
     ZelUIItem::setup(variable, attributes);
+    if (variable && mQuantity.empty())
+        mQuantity = variable->mText;
     if (mType != ZelUIPushButtonType::Push) {
         mIconOnly = true;
         setModelKind(kindName(mType));
@@ -150,12 +153,12 @@ zelWString ZelUIPushButton::buttonText() const
 
 zelWString ZelUIPushButton::tooltip() const
 {
-    return mToolTip.getText();
+    return mToolTip.empty() ? zelButtonToolTip(mType, mQuantity.getText()) : mToolTip.getText();
 }
 
 zelWString ZelUIPushButton::statustip() const
 {
-    return mStatusTip.getText();
+    return mStatusTip.empty() ? zelButtonStatusTip(mType) : mStatusTip.getText();
 }
 
 bool ZelUIPushButton::hasModelTexts() const

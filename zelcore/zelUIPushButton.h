@@ -66,6 +66,7 @@ public:
     void setPushButtonType(ZelUIPushButtonType type) { mType = type; }
     ZelUIPushButtonType pushButtonType() const { return mType; }
     zelWString buttonText() const;
+    /// The tips that were given, else those of the kind, which name the quantity.
     zelWString tooltip() const;
     zelWString statustip() const;
     /// True once one of the three texts has been given.
@@ -73,6 +74,8 @@ public:
     const ZelUICallFunc &modelFunction() const { return mFunction; }
     void setModelFunction(const ZelUICallFunc &function) { mFunction = function; }
     void setModelText(const ZelUITextHandler &text) { mButtonText = text; }
+    /// What the button belongs to, for its tool tip; without it the text of the variable.
+    void setModelQuantity(const ZelUITextHandler &text) { mQuantity = text; }
     const std::vector<std::pair<ZelUITextHandler, ZelUICallFunc>> &modelMenu() const
     {
         return mMenu;
@@ -104,6 +107,7 @@ private:
     void takeInfo(const AttrMap &attributes);
 
     ZelUIPushButtonType mType;
+    ZelUITextHandler mQuantity;
     ZelUICallFunc mFunction;
     std::vector<std::pair<ZelUITextHandler, ZelUICallFunc>> mMenu;
 };

@@ -207,10 +207,11 @@ void ZelUIStdElement::makeUnitLabel(ZelUiBuild &build, const Announced &announce
 void ZelUIStdElement::makeIconBox(ZelUiBuild &build, const Announced &announced)
 {
     if (announced.mLine)
-        mIconBox = zelMakeIconBox(build, nullptr, announced.mLine->attributes());
+        mIconBox = zelMakeIconBox(build, nullptr, announced.mLine->attributes(), announced.mLine);
     for (const Entry &entry : announced.mEntries) {
         if (mIconBox)
             return;
-        mIconBox = zelMakeIconBox(build, entry.mVariable, entry.mAttributes);
+        const ZelDomNode *node = announced.mLine ? entry.mNode : modelNode();
+        mIconBox = zelMakeIconBox(build, entry.mVariable, entry.mAttributes, node);
     }
 }

@@ -4,7 +4,6 @@
 #include "zelUIDialogButtonBox.h"
 #include "zelUIExternalItem.h"
 #include "zelUIGroup.h"
-#include "zelUIPushButton.h"
 #include "zelUITabContainer.h"
 #include "zelUiBuild.h"
 #include "zelUiFactory.h"
@@ -27,9 +26,7 @@ ZelUILayoutItem *makeItem(ZelUiFactory &factory, const ZelDomNode &node)
 void retranslateBelow(const ZelUIObject &parent)
 {
     for (ZelUIObject *child : parent.modelChildren()) {
-        const auto *button = dynamic_cast<const ZelUIPushButton *>(child);
-        if (!button || button->hasModelTexts())
-            child->retranslate();
+        child->retranslate();
         if (!dynamic_cast<const ZelUITopLayout *>(child))
             retranslateBelow(*child);
     }

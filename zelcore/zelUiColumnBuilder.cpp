@@ -171,7 +171,7 @@ void ZelUiColumnBuilder::addMaterial(const ZelDomNode &node, ZelUIVar *variable)
     auto element = makeElement<ZelUIMatElement>(node, variable);
     element->mCombo2 = box;
     element->mLabel1 = zelMakePrompt(mBuild, variable, attributes, &node);
-    const auto buttons = zelMakeIconButtons(mBuild, variable, attributes, 1);
+    const auto buttons = zelMakeIconButtons(mBuild, variable, attributes, &node, 1);
     element->mButton2 = buttons.empty() ? nullptr : buttons.front();
     mColumn.addMatElement(own(std::move(element)));
 }
@@ -186,7 +186,7 @@ void ZelUiColumnBuilder::addLubricant(const ZelDomNode &node, ZelUIVar *variable
     auto element = makeElement<ZelUILubElement>(node, variable);
     element->mCombo2 = box;
     element->mLabel = zelMakePrompt(mBuild, variable, attributes, &node);
-    const auto buttons = zelMakeIconButtons(mBuild, variable, attributes, 2);
+    const auto buttons = zelMakeIconButtons(mBuild, variable, attributes, &node, 2);
     element->mButton2 = buttons.empty() ? nullptr : buttons[0];
     element->mButton3 = buttons.size() < 2 ? nullptr : buttons[1];
     mColumn.addLubElement(own(std::move(element)));

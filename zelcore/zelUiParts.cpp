@@ -62,6 +62,16 @@ ZelUIInput *makeList(ZelUiFactory &factory, ZelUIVar *variable, AttrMap attribut
     return input;
 }
 
+ZelUITextHandler promptText(const ZelUIVar *variable, const ZelDomNode *node)
+{
+    ZelUITextHandler text;
+    if (node && node->hasAttribute(L"text"))
+        text.setup(node);
+    else if (variable)
+        text = variable->mText;
+    return text;
+}
+
 bool buttonType(const zelWString &name, ZelUIPushButtonType &type)
 {
     static const std::map<zelWString, ZelUIPushButtonType> types{
@@ -77,9 +87,10 @@ bool buttonType(const zelWString &name, ZelUIPushButtonType &type)
 }
 
 void setupIconButton(ZelUIPushButton &button, ZelUIPushButtonType type, const zelWString &name,
-                     ZelUIVar *variable, AttrMap attributes)
+                     ZelUIVar *variable, AttrMap attributes, const ZelUITextHandler &quantity)
 {
     button.setPushButtonType(type);
+    button.setModelQuantity(quantity);
     const zelWString function =
         zelAttribute(attributes, (std::wstring(name) + L"function").c_str());
     if (!function.empty())
@@ -110,11 +121,7 @@ ZelUIInput *zelMakeInput(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &a
 ZelUITextLabel *zelMakePrompt(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &attributes,
                               const ZelDomNode *node)
 {
-    ZelUITextHandler text;
-    if (node && node->hasAttribute(L"text"))
-        text.setup(node);
-    else if (variable)
-        text = variable->mText;
+    const ZelUITextHandler text = promptText(variable, node);
     if (text.empty())
         return nullptr;
     ZelUITextLabel *label = build.factory().makeTextLabel(ZelUIAlignment::Left);
@@ -127,8 +134,10 @@ ZelUITextLabel *zelMakePrompt(ZelUiBuild &build, ZelUIVar *variable, const AttrM
 }
 
 std::vector<ZelUIPushButton *> zelMakeIconButtons(ZelUiBuild &build, ZelUIVar *variable,
-                                                  const AttrMap &attributes, size_t limit)
+                                                  const AttrMap &attributes, const ZelDomNode *node,
+                                                  size_t limit)
 {
+    const ZelUITextHandler quantity = promptText(variable, node);
     std::vector<ZelUIPushButton *> buttons;
     for (const zelWString &name : ZelUiParser::words(zelAttribute(attributes, L"buttons"))) {
         if (buttons.size() >= limit)
@@ -138,19 +147,20 @@ std::vector<ZelUIPushButton *> zelMakeIconButtons(ZelUiBuild &build, ZelUIVar *v
             buttonType(name, type) ? build.factory().makeIconButton(type) : nullptr;
         if (!button)
             continue;
-        setupIconButton(*button, type, name, variable, attributes);
+        setupIconButton(*button, type, name, variable, attributes, quantity);
         buttons.push_back(button);
     }
     return buttons;
 }
 
-ZelUIStdButtonBox *zelMakeIconBox(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &attributes)
+ZelUIStdButtonBox *zelMakeIconBox(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &attributes,
+                                  const ZelDomNode *node)
 {
     const bool wanted = !ZelUiParser::words(zelAttribute(attributes, L"buttons")).empty();
     ZelUIStdButtonBox *box = wanted ? build.factory().makeStdButtonBox() : nullptr;
     if (!box)
         return nullptr;
-    for (ZelUIPushButton *button : zelMakeIconButtons(build, variable, attributes))
+    for (ZelUIPushButton *button : zelMakeIconButtons(build, variable, attributes, node))
         box->modelAddButton(button);
     return box;
 }

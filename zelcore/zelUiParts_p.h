@@ -24,12 +24,14 @@ ZelUIInput *zelMakeInput(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &a
 /// The prompt of a line: the text of the node, else that of the variable; null without a text.
 ZelUITextLabel *zelMakePrompt(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &attributes,
                               const ZelDomNode *node);
-/// The icon buttons of the attribute "buttons", in its order, at most `limit` of them.
+/// The icon buttons of the attribute "buttons", in its order, at most `limit` of them. Their tips
+/// name the quantity as the prompt of the node does.
 std::vector<ZelUIPushButton *> zelMakeIconButtons(ZelUiBuild &build, ZelUIVar *variable,
-                                                  const AttrMap &attributes,
+                                                  const AttrMap &attributes, const ZelDomNode *node,
                                                   size_t limit = size_t(-1));
 /// The box with these buttons; null without the attribute.
-ZelUIStdButtonBox *zelMakeIconBox(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &attributes);
+ZelUIStdButtonBox *zelMakeIconBox(ZelUiBuild &build, ZelUIVar *variable, const AttrMap &attributes,
+                                  const ZelDomNode *node);
 /// "left", "center" or "right", the first for anything else.
 ZelUIAlignment zelAlignment(const zelWString &name);
 /// Empty without the attribute.

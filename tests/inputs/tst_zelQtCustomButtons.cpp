@@ -1,6 +1,8 @@
 #include "zelQtCustomButtons.h"
 
 #include "meta.h"
+#include "zelLanguage.h"
+#include "zelQtConversions.h"
 #include "zelQtParentWidget.h"
 #include "zelUIVarKinds.h"
 #include "zelUIVarLists.h"
@@ -71,6 +73,7 @@ class tst_zelQtCustomButtons : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup() { setZelLanguage(ZelLanguage::German); }
     void fixedButtons_data();
     void fixedButtons();
     void toolTipAdvanced_data();
@@ -81,7 +84,8 @@ private slots:
     void languageChangeKeepsTheFixedTips();
     void languageChangeKeepsTheTipOfTheOwner();
     void languageChangeSetsModelTextsAfterTheFixedOnes();
-    void languageChangeEmptiesTheTipsOfAButtonThatWasSetUp();
+    void languageChangeGivesAButtonThatWasSetUpTheTipsOfTheModel_data();
+    void languageChangeGivesAButtonThatWasSetUpTheTipsOfTheModel();
     void toolButtonRaisesByItself();
     void toolButtonTakesAnIconFile();
     void pureIconButtonIsASquare();
@@ -241,16 +245,38 @@ void tst_zelQtCustomButtons::languageChangeSetsModelTextsAfterTheFixedOnes()
     QCOMPARE(button.toolTip(), QStringLiteral("vom Modell"));
 }
 
-void tst_zelQtCustomButtons::languageChangeEmptiesTheTipsOfAButtonThatWasSetUp()
+void tst_zelQtCustomButtons::languageChangeGivesAButtonThatWasSetUpTheTipsOfTheModel_data()
 {
+    fixedButtons_data();
+}
+
+// Model and widget must not differ in one language: in German both have the texts of the same
+// table.
+void tst_zelQtCustomButtons::languageChangeGivesAButtonThatWasSetUpTheTipsOfTheModel()
+{
+    QFETCH(Maker, make);
     ZelUIVarBool variable(L"d");
+    variable.mText.setText(L"Breite");
     AttrMap attributes;
-    ZelQtInfoButton button;
-    button.setup(static_cast<ZelUIVar *>(&variable), attributes);
-    QCOMPARE(button.toolTip(), QStringLiteral("Zusatzinfo"));
-    changeLanguage(&button);
-    QCOMPARE(button.toolTip(), QString());
-    QCOMPARE(button.statusTip(), QString());
+    QWidget window;
+    const QString name = QStringLiteral("Breite");
+    ZelQtToolButton *byHand = make(&window);
+    const bool takesName = byHand->toolTip().isEmpty();
+    if (takesName && byHand->pushButtonType() != Type::File)
+        byHand->setToolTipAdvanced(name);
+    ZelQtToolButton *button = make(&window);
+    button->setup(static_cast<ZelUIVar *>(&variable), attributes);
+    changeLanguage(&window);
+    QCOMPARE(button->toolTip(), byHand->toolTip());
+    QTEST(button->statusTip(), "statusTip");
+    QCOMPARE(button->toolTip().contains(name), takesName && button->pushButtonType() != Type::File);
+
+    setZelLanguage(ZelLanguage::English);
+    changeLanguage(&window);
+    const QString english = toQString(button->statustip());
+    setZelLanguage(ZelLanguage::German);
+    QCOMPARE(button->statusTip(), english);
+    QVERIFY(button->pushButtonType() == Type::File || english != byHand->statusTip());
 }
 
 void tst_zelQtCustomButtons::toolButtonRaisesByItself()

@@ -2,6 +2,7 @@
 
 #include "meta.h"
 #include "zelDescription.h"
+#include "zelLanguage.h"
 #include "zelQtAdvancedLabel.h"
 #include "zelQtCustomButtons.h"
 #include "zelQtEditButton.h"
@@ -59,7 +60,7 @@ const char *const description = R"(<module id="test">
  <page name="first" text="Seite">
   <board row="0" frame="true" text="Gruppe">
    <column>
-    <var name="d" buttons="info"/><var name="dmax"/><var name="note"/><var name="on"/>
+    <var name="d" buttons="size info"/><var name="dmax"/><var name="note"/><var name="on"/>
     <table name="loads"/>
    </column>
   </board>
@@ -110,6 +111,7 @@ private slots:
     void aBuiltPageIsTheOnlyNewTopLevelWidget();
     void nothingShowsWhileAMaskIsBuilt();
     void everyVariableOfAKnownKindHasItsWidget();
+    void iconButtonsKeepTheirTipsInEveryLanguage();
     void formsAreMadeByName();
     void partsWithoutPlaceAreDeleted();
     void layoutsWithoutPlaceAreDeleted();
@@ -238,6 +240,28 @@ void tst_zelQtUiFactory::everyVariableOfAKnownKindHasItsWidget()
     QList<ZelQtEditButton *> checkBoxes = built.mPage->findChildren<ZelQtEditButton *>();
     QCOMPARE(checkBoxes.size(), 1);
     QCOMPARE(checkBoxes.front()->editType(), ZelUIEditButtonType::CHECKBOX);
+}
+
+void tst_zelQtUiFactory::iconButtonsKeepTheirTipsInEveryLanguage()
+{
+    const Built built;
+    const auto *size = built.mPage->findChild<ZelQtSizeButton *>();
+    const auto *info = built.mPage->findChild<ZelQtInfoButton *>();
+    QVERIFY(size && info);
+    const auto tips = [&] {
+        built.mPage->retranslate();
+        return QStringList{size->toolTip(), size->statusTip(), info->toolTip(), info->statusTip()};
+    };
+    QCOMPARE(tips(),
+             QStringList({"Durchmesser auslegen", "Berechnet den Wert anhand von Rechenmethoden",
+                          "Zusatzinfo", "Zeigt zusätzliche Informationen im Infofenster an"}));
+    setZelLanguage(ZelLanguage::English);
+    const QStringList english = tips();
+    setZelLanguage(ZelLanguage::German);
+    QCOMPARE(
+        english,
+        QStringList({"Size Durchmesser", "Computes the value by design methods",
+                     "Additional information", "Shows additional information in the info window"}));
 }
 
 void tst_zelQtUiFactory::formsAreMadeByName()

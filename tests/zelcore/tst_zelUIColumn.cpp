@@ -173,10 +173,12 @@ void tst_zelUIColumn::materialsAndLubricantsHaveLinesOfTheirOwn()
     QVERIFY(material && material->mCombo2 && material->mLabel1 && material->mButton2);
     QVERIFY(!material->mCombo1 && !material->mButton1 && !material->mLabel2);
     QCOMPARE(toText(material->mLabel1->getText()), QString("Werkstoff"));
+    QCOMPARE(toText(material->mButton2->tooltip()), QString("Datenbank bearbeiten"));
     QCOMPARE(material->modelItems().size(), size_t(3));
     const auto *lubricant = dynamic_cast<ZelUILubElement *>(elements[1]);
     QVERIFY(lubricant && lubricant->mCombo2 && lubricant->mButton2 && lubricant->mButton3);
     QCOMPARE(toText(lubricant->mLabel->getText()), QString("Öl"));
+    QCOMPARE(toText(lubricant->mButton3->tooltip()), QString("Zusatzinfo"));
     QCOMPARE(lubricant->modelItems().size(), size_t(4));
 }
 

@@ -1,4 +1,5 @@
 #include "mask.h"
+#include "zelLanguage.h"
 #include "zelUIPushButton.h"
 #include "zelUIStdButtonBox.h"
 #include "zelUIVarLists.h"
@@ -26,6 +27,7 @@ class tst_zelUIPushButton : public QObject
 {
     Q_OBJECT
 private slots:
+    void cleanup() { setZelLanguage(ZelLanguage::German); }
     void numbersOfTheTypesAreFixed();
     void nodeEndsInThePlainSetup();
     void textButtonEndsInThePlainSetup();
@@ -38,6 +40,12 @@ private slots:
     void otherButtonsOfTheLineTakeNoInfo();
     void menuItemsAreKeptInOrder();
     void tellsItself();
+    void tipsOfTheKinds_data();
+    void tipsOfTheKinds();
+    void tipsWithoutAQuantity_data();
+    void tipsWithoutAQuantity();
+    void givenTipsBeatThoseOfTheKind();
+    void givenQuantityBeatsTheVariable();
     void boxHoldsItsButtons();
     void boxForgetsDeadButtons();
 };
@@ -209,6 +217,114 @@ void tst_zelUIPushButton::tellsItself()
     const ZelUIPushButtonStruct told = button.toPushButtonStruct();
     QVERIFY(told.mName == L"go" && told.mText == L"Los" && !told.mState.mEnabled);
     QVERIFY(told.mType == ZelUIPushButtonType::Push);
+}
+
+void tst_zelUIPushButton::tipsOfTheKinds_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QStringList>("toolTips");
+    QTest::addColumn<QStringList>("statusTips");
+    // German and English.
+    QTest::newRow("push") << 0 << QStringList{"", ""} << QStringList{"", ""};
+    QTest::newRow("size") << 1 << QStringList{"Breite auslegen", "Size Breite"}
+                          << QStringList{"Berechnet den Wert anhand von Rechenmethoden",
+                                         "Computes the value by design methods"};
+    QTest::newRow("convert") << 2 << QStringList{"Breite umrechnen", "Convert Breite"}
+                             << QStringList{"Berechnet den Wert anhand von Umrechnungsformeln",
+                                            "Computes the value by conversion formulas"};
+    QTest::newRow("plus takes it as it stands")
+        << 3 << QStringList{"Breite", "Breite"}
+        << QStringList{"Zeigt zusätzliche Daten in einem Dialog an",
+                       "Shows additional data in a dialog"};
+    QTest::newRow("info") << 4 << QStringList{"Zusatzinfo", "Additional information"}
+                          << QStringList{"Zeigt zusätzliche Informationen im Infofenster an",
+                                         "Shows additional information in the info window"};
+    QTest::newRow("offer") << 5
+                           << QStringList{"Angebot für ein Werkzeug anfragen",
+                                          "Request an offer for a tool"}
+                           << QStringList{"Fragt ein Angebot für ein Werkzeug an",
+                                          "Requests an offer for a tool"};
+    QTest::newRow("database") << 6 << QStringList{"Datenbank bearbeiten", "Edit database"}
+                              << QStringList{"Bearbeitet den Eintrag in der Datenbank",
+                                             "Edits the entry in the database"};
+    QTest::newRow("settings")
+        << 7 << QStringList{"Spezifische Einstellungen für Breite", "Specific settings for Breite"}
+        << QStringList{"Zeigt spezifische Einstellungen für den Wert in einem Dialog an",
+                       "Shows specific settings of the value in a dialog"};
+    QTest::newRow("file") << 9 << QStringList{"", ""} << QStringList{"", ""};
+}
+
+void tst_zelUIPushButton::tipsOfTheKinds()
+{
+    QFETCH(int, type);
+    ZelUIVarBool variable(L"b");
+    variable.mText.setText(L"Breite");
+    AttrMap attributes;
+    Button button(static_cast<ZelUIPushButtonType>(type));
+    button.setup(static_cast<ZelUIVar *>(&variable), attributes);
+    QStringList toolTips;
+    QStringList statusTips;
+    for (const ZelLanguage language : {ZelLanguage::German, ZelLanguage::English}) {
+        setZelLanguage(language);
+        toolTips << toText(button.tooltip());
+        statusTips << toText(button.statustip());
+    }
+    QTEST(toolTips, "toolTips");
+    QTEST(statusTips, "statusTips");
+}
+
+void tst_zelUIPushButton::tipsWithoutAQuantity_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("toolTip");
+    QTest::newRow("size") << 1 << "";
+    QTest::newRow("convert") << 2 << "";
+    QTest::newRow("plus") << 3 << "";
+    QTest::newRow("info") << 4 << "Zusatzinfo";
+    QTest::newRow("settings") << 7 << "Spezifische Einstellungen";
+}
+
+void tst_zelUIPushButton::tipsWithoutAQuantity()
+{
+    QFETCH(int, type);
+    const ZelUIPushButton button(static_cast<ZelUIPushButtonType>(type));
+    QTEST(toText(button.tooltip()), "toolTip");
+    QVERIFY(!button.statustip().empty());
+    // A fixed tip is none that was given: widgets of hand-made masks keep the tips of their owners.
+    QVERIFY(!button.hasModelTexts());
+}
+
+void tst_zelUIPushButton::givenTipsBeatThoseOfTheKind()
+{
+    ZelUIVarTable table(L"loads");
+    table.mText.setText(L"Lasten");
+    ZelUIButtonData data;
+    data.mType = ZelUIPushButtonType::Size;
+    data.mToolTip.setText(L"100 %1");
+    AttrMap attributes;
+    Button button;
+    button.setup(&table, attributes, &data);
+    QCOMPARE(toText(button.tooltip()), QString("100 %1"));
+    QCOMPARE(toText(button.statustip()), QString("Berechnet den Wert anhand von Rechenmethoden"));
+    ZelDomNode node(L"button");
+    node.setAttribute(L"status", L"Zeile");
+    Button info(ZelUIPushButtonType::Info);
+    info.setup(&node);
+    QCOMPARE(toText(info.tooltip()), QString("Zusatzinfo"));
+    QCOMPARE(toText(info.statustip()), QString("Zeile"));
+}
+
+void tst_zelUIPushButton::givenQuantityBeatsTheVariable()
+{
+    ZelUIVarBool variable(L"b");
+    variable.mText.setText(L"Breite");
+    ZelUITextHandler quantity;
+    quantity.setText(L"Zahnbreite");
+    AttrMap attributes;
+    Button button(ZelUIPushButtonType::Size);
+    button.setModelQuantity(quantity);
+    button.setup(static_cast<ZelUIVar *>(&variable), attributes);
+    QCOMPARE(toText(button.tooltip()), QString("Zahnbreite auslegen"));
 }
 
 void tst_zelUIPushButton::boxHoldsItsButtons()

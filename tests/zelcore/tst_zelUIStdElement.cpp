@@ -78,6 +78,8 @@ private slots:
     void elementHandsItsStateToSpacerAndBox();
     void elementWalksItsParts();
     void iconButtons();
+    void tipsOfTheIconButtonsNameThePrompt_data();
+    void tipsOfTheIconButtonsNameThePrompt();
     void infoButtonFallsBackToTheHelpCode();
     void partWithoutFactoryIsLeftOut();
 };
@@ -382,6 +384,37 @@ void tst_zelUIStdElement::iconButtons()
     QCOMPARE(names, QStringList({"d_size", "d_info", "d_database"}));
     QVERIFY((element->mIconBox->getPushButton(1)->mInfoIds == std::vector<int>{7, 9}));
     QVERIFY(element->mIconBox->getPushButton(0)->mIconOnly);
+}
+
+void tst_zelUIStdElement::tipsOfTheIconButtonsNameThePrompt_data()
+{
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QString>("toolTip");
+    QTest::newRow("variable") << "<var name='d' buttons='size'/>"
+                              << "Text d auslegen";
+    QTest::newRow("text of the node") << "<var name='d' text='Breite' buttons='size'/>"
+                                      << "Breite auslegen";
+    QTest::newRow("text of the line")
+        << "<line text='Breiten' buttons='size'><var name='d'/><var name='e'/></line>"
+        << "Breiten auslegen";
+    QTest::newRow("line without text") << "<line buttons='size'><var name='d'/></line>"
+                                       << "";
+    QTest::newRow("variable in a line")
+        << "<line text='Breiten'><var name='d'/><var name='e' buttons='size'/></line>"
+        << "Text e auslegen";
+}
+
+void tst_zelUIStdElement::tipsOfTheIconButtonsNameThePrompt()
+{
+    QFETCH(QString, content);
+    Mask mask;
+    number(mask, L"d");
+    number(mask, L"e");
+    const ZelUIStdElement *element = line(mask, content);
+    QVERIFY(element && element->mIconBox);
+    const ZelUIPushButton *button = element->mIconBox->getPushButton(0);
+    QTEST(toText(button->tooltip()), "toolTip");
+    QCOMPARE(toText(button->statustip()), QString("Berechnet den Wert anhand von Rechenmethoden"));
 }
 
 void tst_zelUIStdElement::infoButtonFallsBackToTheHelpCode()

@@ -46,7 +46,7 @@ struct Label : ZelUITextLabel
 struct Button : ZelUIPushButton
 {
     using ZelUIPushButton::ZelUIPushButton;
-    void retranslate() override { calls << "button " + toText(buttonText()); }
+    void retranslate() override { calls << "button " + toText(buttonText()) + toText(tooltip()); }
 };
 
 class Factory : public ZelUiPlainFactory
@@ -103,7 +103,7 @@ private slots:
     void makeLayoutReachesAllBoardsAndPages();
     void makeLayoutOfANode();
     void retranslateVisitsEachOnce();
-    void buttonsWithoutTextsKeepThoseOfTheirClass();
+    void retranslateReachesIconButtonsToo();
     void dataAndStateGoThroughThePages();
     void conditionsOfPagesAndBoards();
     void conditionOfTheTabsIsCompiled();
@@ -223,12 +223,12 @@ void tst_zelUITabPage::retranslateVisitsEachOnce()
         QStringList({"page top", "group g", "label eins", "label zwei", "page a", "label drei"}));
 }
 
-// Icon buttons have fixed texts of their class, which an empty one of the model would wipe.
-void tst_zelUITabPage::buttonsWithoutTextsKeepThoseOfTheirClass()
+// Icon buttons without texts of their own are no exception: the model knows the tips of their kind.
+void tst_zelUITabPage::retranslateReachesIconButtonsToo()
 {
     Mask mask;
     Factory factory;
-    mask.mMeta.add<ZelUIMultiVar>(L"d");
+    mask.mMeta.add<ZelUIMultiVar>(L"d")->mText.setText(L"d");
     mask.mMeta.add<ZelUIVarTextButton>(L"go")->mText.setText(L"Los");
     mask.mDocument = ZelDomDocument::fromText(
         "<page><board><column><var name='d' buttons='size'/><var name='go'/></column></board>"
@@ -238,7 +238,7 @@ void tst_zelUITabPage::buttonsWithoutTextsKeepThoseOfTheirClass()
     ZelUITabPage *page = factory.makeTabPage();
     page->setup(mask.mDocument.root());
     page->retranslate();
-    QCOMPARE(calls, QStringList({"page ", "button Los"}));
+    QCOMPARE(calls, QStringList({"page ", "label d", "button d auslegen", "button Los"}));
 }
 
 void tst_zelUITabPage::dataAndStateGoThroughThePages()
