@@ -82,6 +82,15 @@ double ZelUIValueEdit::storedValue(const Meta &meta, int64_t id) const
     return static_cast<double>(meta.integer(*mNumber, id, mComponent));
 }
 
+double ZelUIValueEdit::withinLimits(double value) const
+{
+    if (mHasBottom && value < mBottom)
+        value = mBottom;
+    if (mHasTop && value > mTop)
+        value = mTop;
+    return value;
+}
+
 void ZelUIValueEdit::writeValue(Meta &meta, int64_t id)
 {
     if (mNumber->mValueKind == 0)
@@ -106,8 +115,11 @@ void ZelUIValueEdit::getData(Meta *meta, int64_t id)
 {
     if (!modelMayWrite(meta) || !mNumber)
         return;
-    const bool untouched = modelIsLoaded(meta, id) && sameBits(mValue, mLoadedValue);
-    if (!untouched && !sameBits(mValue, storedValue(*meta, id)))
+    if (modelIsLoaded(meta, id) && sameBits(mValue, mLoadedValue))
+        return;
+    // A field keeps the number as it was typed while it corrects its text to the limit.
+    mValue = withinLimits(mValue);
+    if (!sameBits(mValue, storedValue(*meta, id)))
         writeValue(*meta, id);
 }
 
@@ -119,13 +131,8 @@ bool ZelUIValueEdit::setUserInput(Meta *meta, int64_t id, const zelWString &text
         return false;
     if (mValueKind != 0 && *number != std::trunc(*number))
         return false;
-    double value = ZelDimensions::changeUnit(*number, mCurrentUnit, mDefaultUnit);
-    if (mHasBottom && value < mBottom)
-        value = mBottom;
-    if (mHasTop && value > mTop)
-        value = mTop;
-    mValue = value;
-    changed = !sameBits(value, storedValue(*meta, id));
+    mValue = withinLimits(ZelDimensions::changeUnit(*number, mCurrentUnit, mDefaultUnit));
+    changed = !sameBits(mValue, storedValue(*meta, id));
     if (changed)
         writeValue(*meta, id);
     return true;

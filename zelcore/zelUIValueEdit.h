@@ -30,6 +30,7 @@ public:
     virtual void setTop(double top);
 
     void setData(Meta *meta, int64_t id) override;
+    /// What is beyond the limits is stored as the limit.
     void getData(Meta *meta, int64_t id) override;
     bool setUserInput(Meta *meta, int64_t id, const zelWString &text, bool &changed) override;
     zelWString getRenderedData() override;
@@ -54,6 +55,7 @@ public:
 
 private:
     double storedValue(const Meta &meta, int64_t id) const;
+    double withinLimits(double value) const;
     void writeValue(Meta &meta, int64_t id);
 
     ZelUIMultiVar *mNumber = nullptr;

@@ -47,6 +47,9 @@ private slots:
     void getDataIsSilent_data();
     void getDataIsSilent();
     void getDataWritesTheSmallestDifference();
+    void numberBeyondTheLimitsIsStoredAsTheLimit_data();
+    void numberBeyondTheLimitsIsStoredAsTheLimit();
+    void valueOfTheModuleBeyondTheLimitsStays();
     void untouchedFieldDoesNotWriteAnOldValue();
     void getDataCopiesToAnotherObject();
     void typingPicksTheAlternative();
@@ -264,6 +267,50 @@ void tst_zelUIValueEdit::getDataWritesTheSmallestDifference()
 }
 
 // The same variable may stand in two places of a mask, and a module may compute meanwhile.
+void tst_zelUIValueEdit::numberBeyondTheLimitsIsStoredAsTheLimit_data()
+{
+    QTest::addColumn<double>("typed");
+    QTest::addColumn<double>("stored");
+    QTest::newRow("above") << 10.5 << 10.0;
+    QTest::newRow("below") << -3.0 << 2.0;
+    QTest::newRow("at the limit") << 10.0 << 10.0;
+    QTest::newRow("within") << 9.5 << 9.5;
+}
+
+void tst_zelUIValueEdit::numberBeyondTheLimitsIsStoredAsTheLimit()
+{
+    QFETCH(double, typed);
+    Meta meta;
+    auto *d = meta.add<ZelUIMultiVar>(L"d", ZelDimensions::Millimetre);
+    meta.setReal(*d, 0, 0, 5, ZelOrigin::Load);
+    d->mHasBottom = d->mHasTop = true;
+    d->mBottom = 2;
+    d->mTop = 10;
+    AttrMap attributes;
+    ZelUIValueEdit edit;
+    edit.setup(d, attributes, 0);
+    edit.setData(&meta, 0);
+    edit.mValue = typed;
+    edit.getData(&meta, 0);
+    QTEST(meta.real(*d, 0), "stored");
+    QTEST(edit.mValue, "stored");
+}
+
+void tst_zelUIValueEdit::valueOfTheModuleBeyondTheLimitsStays()
+{
+    Meta meta;
+    auto *d = meta.add<ZelUIMultiVar>(L"d", ZelDimensions::Millimetre);
+    meta.setReal(*d, 0, 0, 50, ZelOrigin::Module);
+    d->mHasTop = true;
+    d->mTop = 10;
+    AttrMap attributes;
+    ZelUIValueEdit edit;
+    edit.setup(d, attributes, 0);
+    edit.setData(&meta, 0);
+    edit.getData(&meta, 0);
+    QCOMPARE(meta.real(*d, 0), 50.0);
+}
+
 void tst_zelUIValueEdit::untouchedFieldDoesNotWriteAnOldValue()
 {
     Meta meta;
