@@ -23,6 +23,8 @@ public:
     /// Takes `unit`, or without `keep` the default unit of its dimension in the unit system.
     void checkUnit(const QString &unit, bool keep);
     void checkUnit(ZelDimensions::Unit unit, bool keep);
+    /// Shows the unit of the model. Silent.
+    void updateUnit();
     /// Width in pixels that the widest unit of the dimension needs.
     int absUnitWidth() const;
 
@@ -46,6 +48,5 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
-    void updateUnit();
     QString chosenInMenu(const QPoint &globalPos);
 };

@@ -65,6 +65,7 @@ private slots:
     void setupShowsTheUnitOfTheVariable();
     void setDataShowsADynamicUnit();
     void setDataShowsTheUnitChosenEarlierSilently();
+    void updateUnitShowsTheUnitOfTheModelSilently();
     void widthForEveryUnitOfTheDimension();
     void widthWithoutUnitIsZero();
     void widthOfADynamicUnitIsThatOfItsText();
@@ -242,6 +243,18 @@ void tst_zelQtUnitLabel::setDataShowsTheUnitChosenEarlierSilently()
     recordAll(recorder, label);
     label.setData(&meta, 2);
     QCOMPARE(label.text(), QStringLiteral("kN"));
+    QCOMPARE(recorder.take(), QStringList());
+}
+
+void tst_zelQtUnitLabel::updateUnitShowsTheUnitOfTheModelSilently()
+{
+    ZelQtUnitLabel label(QStringLiteral("mm"));
+    EventRecorder recorder;
+    recordAll(recorder, label);
+    label.mCurrentUnit = ZelDimensions::Centimetre;
+    QCOMPARE(label.text(), QStringLiteral("mm"));
+    label.updateUnit();
+    QCOMPARE(label.text(), QStringLiteral("cm"));
     QCOMPARE(recorder.take(), QStringList());
 }
 

@@ -89,8 +89,8 @@ class tst_zelQtUnitLabel_menu : public QObject
 
 private slots:
     void menuListsTheDimensionInOrder();
-    void everyDimensionHasAMenu_data();
-    void everyDimensionHasAMenu();
+    void shortestListsHaveAMenuToo_data();
+    void shortestListsHaveAMenuToo();
     void choosingTellsTheChangeBeforeTheUser();
     void choosingTheCurrentUnitTellsTheUserAloneOnPurpose();
     void choosingByKeys();
@@ -117,7 +117,7 @@ void tst_zelQtUnitLabel_menu::menuListsTheDimensionInOrder()
     QCOMPARE(shown, unitsOf(ZelDimensions::Newton));
 }
 
-void tst_zelQtUnitLabel_menu::everyDimensionHasAMenu_data()
+void tst_zelQtUnitLabel_menu::shortestListsHaveAMenuToo_data()
 {
     // The shortest list stands for one with a single unit, which the table of units doesn't hold:
     // nothing asks for the length but for zero.
@@ -130,7 +130,7 @@ void tst_zelQtUnitLabel_menu::everyDimensionHasAMenu_data()
     }
 }
 
-void tst_zelQtUnitLabel_menu::everyDimensionHasAMenu()
+void tst_zelQtUnitLabel_menu::shortestListsHaveAMenuToo()
 {
     QFETCH(int, unit);
     ZelQtUnitLabel label;
