@@ -1,3 +1,4 @@
+#include "springModule.h"
 #include "zelCheck.h"
 #include "zelModuleRegistry.h"
 
@@ -7,7 +8,8 @@
 // here.
 int main(int argc, char *argv[])
 {
-    const ZelModuleRegistry registry;
+    ZelModuleRegistry registry;
+    registerSpringModule(registry);
     return zelCheckMain(std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr,
                         registry);
 }
