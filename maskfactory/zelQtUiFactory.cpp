@@ -3,6 +3,7 @@
 #include "zelQtAdvancedLabel.h"
 #include "zelQtBoardLayout.h"
 #include "zelQtColumnLayout.h"
+#include "zelQtComboBox.h"
 #include "zelQtCustomButtons.h"
 #include "zelQtEditButton.h"
 #include "zelQtFlag.h"
@@ -183,4 +184,9 @@ ZelUIPushButton *ZelQtUiFactory::makeIconButton(ZelUIPushButtonType type)
 ZelUIPushButton *ZelQtUiFactory::makePushButton()
 {
     return part<ZelQtPushButton>();
+}
+
+ZelUIComboBox *ZelQtUiFactory::makeComboBox()
+{
+    return part<ZelQtComboBox>();
 }

@@ -55,6 +55,7 @@ public:
     ZelUIStdButtonBox *makeStdButtonBox() override;
     ZelUIPushButton *makeIconButton(ZelUIPushButtonType type) override;
     ZelUIPushButton *makePushButton() override;
+    ZelUIComboBox *makeComboBox() override;
 
 private:
     template <class Widget, class... Args> Widget *part(Args &&...args);

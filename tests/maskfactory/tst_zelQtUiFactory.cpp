@@ -15,6 +15,7 @@
 #include "zelQtValueEdit.h"
 #include "zelUIBoard.h"
 #include "zelUIColumn.h"
+#include "zelUIComboBox.h"
 #include "zelUIDialogButtonBox.h"
 #include "zelUIFlag.h"
 #include "zelUIFormulaLabel.h"
@@ -149,6 +150,7 @@ void tst_zelQtUiFactory::parts()
     QVERIFY(isA(factory.makeSpacer(), "ZelQtSpacer"));
     QVERIFY(isA(factory.makeStdButtonBox(), "ZelQtStdButtonBox"));
     QVERIFY(isA(factory.makePushButton(), "ZelQtPushButton"));
+    QVERIFY(isA(factory.makeComboBox(), "ZelQtComboBox"));
 
     const ZelUITextLabel *right = factory.makeTextLabel(ZelUIAlignment::Right);
     QCOMPARE(right->getAlignment(), ZelUIAlignment::Right);
