@@ -129,7 +129,8 @@ public:
     /// The user typed in a variable of a choice by typing: picks, among the alternatives that hold
     /// it, the one whose other members were typed last.
     void noteTyped(const ZelUIVar &variable, int64_t id);
-    /// The member of a choice that was typed last; null when none was.
+    /// The member of a choice that was typed last; null when none was since an alternative was
+    /// picked by pick().
     const ZelUIVar *lastTyped(const ZelUIVarChoice &choice, int64_t id) const;
     /// Called after an alternative was picked by anybody, with the former and the new one.
     using ChoiceObserver = std::function<void(const ZelUIVarChoice &, int64_t id, short former,

@@ -57,14 +57,22 @@ const ZelUIVarChoice *Meta::choiceOf(const ZelUIVar &variable) const
 
 void Meta::pick(const ZelUIVarChoice &choice, int64_t id, short alternative, ZelOrigin origin)
 {
-    const bool exists = Private::owns(*this, choice) && alternative >= 1
+    if (Object *object = d->find(id))
+        object->mPickedAt = object->mTypedCount;
+    d->pick(*this, choice, id, alternative, origin);
+}
+
+void Meta::Private::pick(const Meta &meta, const ZelUIVarChoice &choice, int64_t id,
+                         short alternative, ZelOrigin origin)
+{
+    const bool exists = owns(meta, choice) && alternative >= 1
         && static_cast<size_t>(alternative) <= choice.mAlternatives.size();
     if (!exists)
         return;
-    const auto former = static_cast<short>(integer(choice, id));
-    if (!d->write(*this, choice, id, 0, static_cast<uint64_t>(alternative), origin))
+    const auto former = static_cast<short>(meta.integer(choice, id));
+    if (!write(meta, choice, id, 0, static_cast<uint64_t>(alternative), origin))
         return;
-    const std::shared_ptr<const ChoiceObserver> observer = d->mChoiceObserver;
+    const std::shared_ptr<const ChoiceObserver> observer = mChoiceObserver;
     if (observer)
         (*observer)(choice, id, former, alternative, origin);
 }
@@ -106,14 +114,14 @@ void Meta::noteTyped(const ZelUIVar &variable, int64_t id)
             bestTimes = std::move(times);
         }
     }
-    pick(*choice, id, best, ZelOrigin::User);
+    d->pick(*this, *choice, id, best, ZelOrigin::User);
 }
 
 const ZelUIVar *Meta::lastTyped(const ZelUIVarChoice &choice, int64_t id) const
 {
     const Object *object = Private::owns(*this, choice) ? d->find(id) : nullptr;
     const ZelUIVar *last = nullptr;
-    uint64_t lastTime = 0;
+    uint64_t lastTime = object ? object->mPickedAt : 0;
     for (const Members &members : choice.mAlternatives) {
         for (const ZelUIVar *member : members) {
             const auto index = static_cast<size_t>(member->index());

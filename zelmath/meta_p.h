@@ -21,6 +21,7 @@ struct Meta::Object
     std::vector<int> mMessages;
     std::vector<uint64_t> mTyped; // when a member of a choice was typed last, 0 for never
     uint64_t mTypedCount = 0;
+    uint64_t mPickedAt = 0; // mTypedCount when an alternative was picked otherwise
 };
 
 struct Meta::Private
@@ -53,6 +54,8 @@ struct Meta::Private
     void change(const Meta &meta, const ZelUIVar &variable, int64_t id, int component,
                 ZelOrigin origin, Store store);
     void tell(const ZelValueChange &change) const;
+    void pick(const Meta &meta, const ZelUIVarChoice &choice, int64_t id, short alternative,
+              ZelOrigin origin);
 
     std::vector<std::unique_ptr<Object>> mObjects; // ascending by id
     mutable Object *mLast = nullptr; // a mask asks for the same object thousands of times in a row

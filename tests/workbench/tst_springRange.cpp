@@ -20,6 +20,7 @@ private slots:
     void forcesTypedSinceTheCalculationAreConverted();
     void aChangedSpringKeepsTheEnteredLengths();
     void aRadioButtonConvertsBoth();
+    void aRadioButtonConvertsAlsoWhatWasTypedBefore();
     void thereAndBackAgainChangesNoBit();
     void lengthsThatWereNotEnteredAreNotConverted();
     void aForceOfNothingIsTheFreeLength();
@@ -145,6 +146,19 @@ void tst_springRange::aRadioButtonConvertsBoth()
     QVERIFY(close(get("F2"), force(45), 1e-12));
     QCOMPARE(get("L1"), 60.0);
     QCOMPARE(get("L2"), 45.0);
+}
+
+// The force was typed, but for another spring than the one whose lengths are converted.
+void tst_springRange::aRadioButtonConvertsAlsoWhatWasTypedBefore()
+{
+    type("F1", 50);
+    type("F2", 150);
+    QVERIFY(calculate());
+    pick(1);
+    type("n", 15);
+    pick(2);
+    QVERIFY(close(get("F1"), 25, 1e-12));
+    QVERIFY(close(get("F2"), 75, 1e-12));
 }
 
 void tst_springRange::thereAndBackAgainChangesNoBit()

@@ -143,6 +143,7 @@ private slots:
     void typingByObject();
     void typingDoesNotPickInAChoiceBySwitch();
     void typingComparesAllOtherMembers();
+    void lastTypedIsForgottenByAPick();
     void enteredAndComputedValuesShareTheSlot();
 
     void functionsAnswerByIndex();
@@ -880,6 +881,21 @@ void tst_meta::typingDoesNotPickInAChoiceBySwitch()
     GearPair pair(ZelUIVarChoice::Switch);
     pair.mMeta.noteTyped(*pair.mA, 0);
     QCOMPARE(pair.alternative(), int64_t(1));
+}
+
+// A radio button picks; what was typed before it says nothing about what the user wants to keep.
+void tst_meta::lastTypedIsForgottenByAPick()
+{
+    GearPair pair(ZelUIVarChoice::Typing);
+    QVERIFY(!pair.mMeta.lastTyped(*pair.mShift, 0));
+    pair.mMeta.noteTyped(*pair.mX1, 0);
+    pair.mMeta.noteTyped(*pair.mA, 0); // picks another alternative itself
+    QCOMPARE(pair.mMeta.lastTyped(*pair.mShift, 0), static_cast<const ZelUIVar *>(pair.mA));
+    pair.mMeta.pick(*pair.mShift, 0, 1, ZelOrigin::User);
+    QVERIFY(!pair.mMeta.lastTyped(*pair.mShift, 0));
+    pair.mMeta.noteTyped(*pair.mX2, 0);
+    QCOMPARE(pair.mMeta.lastTyped(*pair.mShift, 0), static_cast<const ZelUIVar *>(pair.mX2));
+    QVERIFY(!pair.mMeta.lastTyped(*pair.mShift, 1));
 }
 
 void tst_meta::typingComparesAllOtherMembers()
