@@ -35,6 +35,7 @@ private slots:
     void permissibleStressIsForHotCoiledSpringsAlone();
     void correctedStressesShowForDynamicLoad();
     void typingAForceLowersTheLengths();
+    void fieldsTypedBetweenTwoCollectionsAllCount();
     void refusedSpringShowsNoResults();
 
 private:
@@ -335,6 +336,29 @@ void tst_springMask::typingAForceLowersTheLengths()
     QCOMPARE(toText(field("F2").getRenderedData()), QStringLiteral("150.00"));
     QCOMPARE(toText(field("L1").getRenderedData()), QStringLiteral("62.000"));
     QCOMPARE(toText(field("L2").getRenderedData()), QStringLiteral("47.384"));
+}
+
+// Calculating collects what is not confirmed yet: the length is converted, the force is kept.
+void tst_springMask::fieldsTypedBetweenTwoCollectionsAllCount()
+{
+    typeExample("S2");
+    QVERIFY(mMask->calculate().mSucceeded);
+    field("L1").mValue = 60;
+    field("F2").mValue = 150;
+    QVERIFY(mMask->calculate().mSucceeded);
+    QCOMPARE(value(meta(), "F2"), 150.0);
+    QVERIFY(close(value(meta(), "F1"), value(meta(), "R") * 10, 1e-12));
+    field("F1").mValue = 55;
+    field("F2").mValue = 160;
+    QVERIFY(mMask->calculate().mSucceeded);
+    QCOMPARE(value(meta(), "F1"), 55.0);
+    QCOMPARE(value(meta(), "F2"), 160.0);
+    field("L1").mValue = 61;
+    field("L2").mValue = 47;
+    QVERIFY(mMask->calculate().mSucceeded);
+    QCOMPARE(value(meta(), "L1"), 61.0);
+    QCOMPARE(value(meta(), "L2"), 47.0);
+    QVERIFY(close(value(meta(), "F2"), value(meta(), "R") * 23, 1e-12));
 }
 
 void tst_springMask::refusedSpringShowsNoResults()
