@@ -9,7 +9,8 @@ class ZelUIPushButton;
 class ZELCORE_EXPORT ZelUIDialogButtonBox : public ZelUIElement
 {
 public:
-    enum ButtonRole { Accept = 0, Reject = 1, Close = 2, Action = 3 };
+    /// Any other number acts like Action.
+    enum ButtonRole : int { Accept = 0, Reject = 1, Close = 2, Action = 3 };
 
     ZelUIDialogButtonBox();
     ~ZelUIDialogButtonBox() override;

@@ -23,7 +23,7 @@ class CUSTOMWIDGETS_EXPORT ZelQtDialogButtonBox : public QDialogButtonBox
     Q_PROPERTY(Mode mode READ mode WRITE setMode)
 
 public:
-    enum Mode {
+    enum Mode : int {
         STANDARD = 0,
         OK_CANCEL = 1,
         CLOSE = 2,

@@ -73,6 +73,7 @@ private Q_SLOTS:
     void modeIsAPropertyThatFormsSetByName();
     void withoutModeTheBoxHasOkAndCancel();
     void standardLeavesTheStandardButtonsAsTheyAre();
+    void numberOutsideTheTableChangesNoStandardButton_data();
     void numberOutsideTheTableChangesNoStandardButton();
     void editAndShowTakeTheStandardButtonsGiven();
     void otherModesIgnoreTheStandardButtonsGiven();
@@ -243,13 +244,23 @@ void tst_zelQtDialogButtonBoxModes::standardLeavesTheStandardButtonsAsTheyAre()
     QCOMPARE(ownButtons(box), QStringList());
 }
 
+void tst_zelQtDialogButtonBoxModes::numberOutsideTheTableChangesNoStandardButton_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::newRow("behind the last") << 13;
+    QTest::newRow("far away") << 4711;
+    QTest::newRow("negative") << -1;
+}
+
 void tst_zelQtDialogButtonBoxModes::numberOutsideTheTableChangesNoStandardButton()
 {
+    QFETCH(int, number);
     Box box(Box::CALC_CLOSE);
-    box.setMode(static_cast<Box::Mode>(13));
-    QCOMPARE(static_cast<int>(box.mode()), 13);
+    box.setMode(static_cast<Box::Mode>(number));
+    QCOMPARE(static_cast<int>(box.mode()), number);
     QCOMPARE(box.standardButtons(), QDialogButtonBox::StandardButtons(QDialogButtonBox::Close));
     QCOMPARE(ownButtons(box), QStringList());
+    QVERIFY(!box.isReportPermitted());
 }
 
 void tst_zelQtDialogButtonBoxModes::editAndShowTakeTheStandardButtonsGiven()
