@@ -1,5 +1,7 @@
 #include "zelQtUiWidget.h"
 
+#include "zelQtWidgetHelpers_p.h"
+
 ZelQtUiWidget::ZelQtUiWidget(QWidget *parent)
     : ZelQtParentWidget(parent)
 {
@@ -11,6 +13,22 @@ ZelQtUiWidget::ZelQtUiWidget(int authorItCode, QWidget *parent)
 }
 
 ZelQtUiWidget::~ZelQtUiWidget() = default;
+
+void ZelQtUiWidget::setup(const ZelDomNode *node)
+{
+    ZelUIExternalItem::setup(node);
+    const int ownCode = authorItCode();
+    applyElementName(this, node);
+    if (authorItCode() < 1)
+        setAuthorItCode(ownCode);
+}
+
+void ZelQtUiWidget::updateState(Meta *meta, int64_t id)
+{
+    ZelUIExternalItem::updateState(meta, id);
+    setEnabled(mEnabled);
+    setVisible(mVisible);
+}
 
 void ZelQtUiWidget::retranslate()
 {

@@ -17,10 +17,17 @@ public:
     using ZelQtParentWidget::setAuthorItCode; // F1 reads the host's code, not the model's
     using ZelUIContainer::getData; // the slots without arguments would hide the model's walk
     using ZelUIContainer::setData;
+    using ZelUIExternalItem::setup; // the override below would hide the inherited ones
 
     explicit ZelQtUiWidget(QWidget *parent = nullptr);
     explicit ZelQtUiWidget(int authorItCode, QWidget *parent = nullptr);
     ~ZelQtUiWidget() override;
+
+    // ZelUIExternalItem
+    /// Keeps the help code of the constructor where the description gives none.
+    void setup(const ZelDomNode *node) override;
+    /// Follows enabled and visible. Read-only is for the subclass to heed, in setData().
+    void updateState(Meta *meta, int64_t id) override;
 
 public Q_SLOTS:
     /// Fills the form. May run while the mask is still being built, at the first tab of a

@@ -14,8 +14,11 @@
 class BuiltMask
 {
 public:
-    explicit BuiltMask(const QByteArray &xml, const ZelModuleRegistry &registry = {})
-        : BuiltMask(ZelDescription(), xml, registry)
+    using Prepare = std::function<void(ZelQtUiFactory &)>;
+
+    /// `prepare` announces forms to the factory.
+    explicit BuiltMask(const QByteArray &xml, const Prepare &prepare = {})
+        : BuiltMask(ZelDescription(), xml, prepare)
     {
     }
     /// The same for a file, with the translations beside it.
@@ -67,11 +70,13 @@ public:
     int mCollected = 0;
 
 private:
-    BuiltMask(ZelDescription description, const QByteArray &xml, const ZelModuleRegistry &registry)
+    BuiltMask(ZelDescription description, const QByteArray &xml, const Prepare &prepare)
     {
+        if (prepare)
+            prepare(mFactory);
         if (!xml.isEmpty())
             description = ZelDescription::fromText(xml.toStdString(), "test.xml", mFaults);
-        mLoaded = zelLoadModule(std::move(description), registry, mFaults);
+        mLoaded = zelLoadModule(std::move(description), ZelModuleRegistry(), mFaults);
         mMask = std::make_unique<ZelMask>(*mLoaded, mFactory, mFaults);
         auto *layout = new QVBoxLayout(mHost.get());
         for (size_t i = 0; i < mMask->pages().size(); ++i)

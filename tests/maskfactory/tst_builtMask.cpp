@@ -5,14 +5,14 @@
 #include "zelQtFormulaLabel.h"
 #include "zelQtGroupBox.h"
 #include "zelQtNotepad.h"
-#include "zelQtTabContainer.h"
 #include "zelQtTopLayout.h"
 #include "zelQtUnitLabel.h"
 #include "zelQtValueEdit.h"
 
-#include <QTabBar>
+#include <QGroupBox>
+#include <QLabel>
 
-// How masks of descriptions stand on the screen: the grid, groups, tabs, and what conditions hide.
+// How masks of descriptions stand on the screen: the grid, groups, and what conditions hide.
 
 namespace {
 
@@ -52,28 +52,6 @@ const char *const group = R"(<module id="test">
  </page>
 </module>)";
 
-const char *const tabs = R"(<module id="test">
- <variables>
-  <bool name="b" text="Seite B" initial="true"/><bool name="inner" text="Innen" initial="true"/>
-  <real name="in_b" text="Wert B" initial="2"/><real name="in_y" text="Wert Y" initial="3"/>
- </variables>
- <page name="p" text="Seite">
-  <board row="0"><column><var name="b"/><var name="inner"/></column></board>
-  <tabs row="1" name="outer">
-   <page name="A" text="A">
-    <tabs name="nested">
-     <page name="X" text="X"/>
-     <page name="Y" text="Y" visible="inner">
-      <board><column><var name="in_y"/></column></board>
-     </page>
-    </tabs>
-   </page>
-   <page name="B" text="B" visible="b"><board><column><var name="in_b"/></column></board></page>
-   <page name="C" text="C"/>
-  </tabs>
- </page>
-</module>)";
-
 const char *const hiddenBoard = R"(<module id="test">
  <variables>
   <bool name="on" text="An" initial="true"/><bool name="form" text="Formular" initial="true"/>
@@ -88,14 +66,6 @@ const char *const hiddenBoard = R"(<module id="test">
   <board row="3"><column><var name="y"/></column></board>
  </page>
 </module>)";
-
-QString tabTexts(const QTabWidget *tabs)
-{
-    QString texts;
-    for (int i = 0; i < tabs->count(); ++i)
-        texts += tabs->tabText(i);
-    return texts;
-}
 
 template <class Widget> QList<int> leftEdges(const BuiltMask &mask, const QStringList &names)
 {
@@ -125,13 +95,12 @@ private slots:
     void promptsAndSymbolsStandInTheirColumns();
     void groupStacksHeadColumnsAndFoot();
     void groupIsNeverDisabledItself();
-    void tabsFollowTheirConditions();
-    void nestedTabsFollowTheirConditions();
-    void tabThatIsHiddenWhileItShowsGivesWayToAnother();
-    void fieldsOfAHiddenTabKeepTheirValues();
     void hiddenBoardLosesItsStretch();
     void hiddenGroupGivesItsRoomAway();
     void pageOfItsHintShowsItsPromptsWhole();
+    void hiddenLineLeavesNoGap();
+    void tabKeyFollowsTheDescription_data();
+    void tabKeyFollowsTheDescription();
 };
 
 void tst_builtMask::descriptionsOfThisFileHaveNoFaults_data()
@@ -139,7 +108,6 @@ void tst_builtMask::descriptionsOfThisFileHaveNoFaults_data()
     QTest::addColumn<QByteArray>("xml");
     QTest::newRow("two columns") << QByteArray(twoColumns);
     QTest::newRow("group") << QByteArray(group);
-    QTest::newRow("tabs") << QByteArray(tabs);
     QTest::newRow("hidden board") << QByteArray(hiddenBoard);
 }
 
@@ -251,83 +219,6 @@ void tst_builtMask::groupIsNeverDisabledItself()
     }
 }
 
-void tst_builtMask::tabsFollowTheirConditions()
-{
-    BuiltMask mask(tabs);
-    QVERIFY(mask.show());
-    const auto *outer = mask.mHost->findChildren<ZelQtTabContainer *>().first();
-    QCOMPARE(tabTexts(outer), QString("ABC"));
-
-    tick(mask.find<ZelQtFlag>("b"));
-    QCOMPARE(tabTexts(outer), QString("AC"));
-    QVERIFY(!mask.find<QWidget>("B")->isVisible());
-    QVERIFY(!mask.find<QWidget>("B")->isWindow());
-
-    tick(mask.find<ZelQtFlag>("b"));
-    QCOMPARE(tabTexts(outer), QString("ABC"));
-}
-
-void tst_builtMask::nestedTabsFollowTheirConditions()
-{
-    BuiltMask mask(tabs);
-    QVERIFY(mask.show());
-    const auto containers = mask.mHost->findChildren<ZelQtTabContainer *>();
-    QCOMPARE(containers.size(), 2);
-    auto *outer = containers.first();
-    const auto *nested = containers.last();
-    QVERIFY(outer->isAncestorOf(nested));
-    QCOMPARE(tabTexts(nested), QString("XY"));
-
-    // Also while nobody sees it.
-    QTest::mouseClick(outer->tabBar(), Qt::LeftButton, Qt::NoModifier,
-                      outer->tabBar()->tabRect(2).center());
-    QVERIFY(!nested->isVisible());
-    tick(mask.find<ZelQtFlag>("inner"));
-    QTest::mouseClick(outer->tabBar(), Qt::LeftButton, Qt::NoModifier,
-                      outer->tabBar()->tabRect(0).center());
-    QVERIFY(nested->isVisible());
-    QCOMPARE(tabTexts(nested), QString("X"));
-
-    tick(mask.find<ZelQtFlag>("inner"));
-    QCOMPARE(tabTexts(nested), QString("XY"));
-}
-
-void tst_builtMask::tabThatIsHiddenWhileItShowsGivesWayToAnother()
-{
-    BuiltMask mask(tabs);
-    QVERIFY(mask.show());
-    auto *outer = mask.mHost->findChildren<ZelQtTabContainer *>().first();
-    QTest::mouseClick(outer->tabBar(), Qt::LeftButton, Qt::NoModifier,
-                      outer->tabBar()->tabRect(1).center());
-    QVERIFY(mask.find<QLineEdit>("in_b")->isVisible());
-
-    tick(mask.find<ZelQtFlag>("b"));
-
-    QVERIFY(!mask.find<QLineEdit>("in_b")->isVisible());
-    QVERIFY(outer->currentWidget());
-    QVERIFY(outer->currentWidget()->isVisible());
-
-    tick(mask.find<ZelQtFlag>("b"));
-    outer->setCurrentWidget(mask.find<QWidget>("B"));
-    QVERIFY(mask.find<QLineEdit>("in_b")->isVisible());
-}
-
-void tst_builtMask::fieldsOfAHiddenTabKeepTheirValues()
-{
-    BuiltMask mask(tabs);
-    QVERIFY(mask.show());
-    auto *outer = mask.mHost->findChildren<ZelQtTabContainer *>().first();
-    QTest::mouseClick(outer->tabBar(), Qt::LeftButton, Qt::NoModifier,
-                      outer->tabBar()->tabRect(1).center());
-    QVERIFY(enter(mask.find<QLineEdit>("in_b"), "7.25"));
-    QCOMPARE(mask.real(L"in_b"), 7.25);
-
-    tick(mask.find<ZelQtFlag>("b"));
-    QCOMPARE(mask.real(L"in_b"), 7.25);
-    tick(mask.find<ZelQtFlag>("b"));
-    QCOMPARE(mask.find<QLineEdit>("in_b")->text(), QString("7.2500"));
-}
-
 void tst_builtMask::hiddenBoardLosesItsStretch()
 {
     BuiltMask mask(hiddenBoard);
@@ -368,6 +259,56 @@ void tst_builtMask::hiddenGroupGivesItsRoomAway()
     tick(mask.find<ZelQtFlag>("form"));
     QVERIFY(box->isVisible());
     QVERIFY(mask.find<QLineEdit>("x")->isVisible());
+}
+
+void tst_builtMask::hiddenLineLeavesNoGap()
+{
+    const auto gap = [](const char *condition) {
+        const QByteArray xml = QByteArray(R"(<module id="test"><variables>
+<real name="a" text="a" unit="mm"/><real name="b" text="b" unit="mm" optional="true"/>
+<real name="c" text="c" unit="mm"/></variables><page text="P"><board><column><var name="a"/>)")
+            + condition + R"(<var name="c"/></column></board></page></module>)";
+        BuiltMask mask(xml);
+        const bool shown = mask.show();
+        const int above = placeOn(mask.find<QLineEdit>("a"), mask.mHost.get()).y();
+        const int below = placeOn(mask.find<QLineEdit>("c"), mask.mHost.get()).y();
+        return shown && mask.mFaults.empty() ? below - above : -1;
+    };
+    const int without = gap("");
+    QVERIFY(without > 0);
+    QCOMPARE(gap(R"(<var name="b" buttons="info" visible="false"/>)"), without);
+    QCOMPARE(gap(R"(<line text="L"><var name="b" visible="false"/></line>)"), without);
+    QVERIFY(gap(R"(<var name="b" buttons="info"/>)") > without);
+}
+
+void tst_builtMask::tabKeyFollowsTheDescription_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<QStringList>("order");
+    // Line by line down the first column, with the icon buttons of each line, then down the second.
+    // The check box of a line is passed over.
+    QTest::newRow("columns") << QByteArray(
+        twoColumns) << QStringList{"d",    "d_info", "d_database", "length", "length_info", "F",
+                                   "size", "size_2", "size_3",     "note",   "x",           "d"};
+    QTest::newRow("group before a board")
+        << QByteArray(group) << QStringList{"above", "left", "right", "below", "on", "above"};
+    QTest::newRow("boards and a hidden group")
+        << QByteArray(hiddenBoard) << QStringList{"on", "form", "notes", "x", "y", "on"};
+}
+
+void tst_builtMask::tabKeyFollowsTheDescription()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(QStringList, order);
+    BuiltMask mask(xml);
+    QVERIFY(mask.show());
+    QVERIFY(focus(mask.find<QWidget>(qPrintable(order.first()))));
+    QStringList reached;
+    for (int i = 0; i < order.size(); ++i) {
+        reached << QApplication::focusWidget()->objectName();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(reached, order);
 }
 
 QTEST_MAIN(tst_builtMask)

@@ -2,6 +2,7 @@
 
 #include "maskTestSupport.h"
 #include "window.h"
+#include "zelDomDocument.h"
 
 namespace {
 
@@ -36,6 +37,9 @@ private Q_SLOTS:
     void languageChangePassesTheFormByAsMeant();
     void walkOfTheModelMovesNoDataOfTheForm();
     void formCarriesItsHelpCodeToF1();
+    void setupTakesNameAndTopicOfTheDescription_data();
+    void setupTakesNameAndTopicOfTheDescription();
+    void formFollowsEnabledAndVisible();
 };
 
 void tst_zelQtUiWidget::helpCodeStartsWithoutTopic()
@@ -99,6 +103,43 @@ void tst_zelQtUiWidget::formCarriesItsHelpCodeToF1()
     QTest::keyClick(&form, Qt::Key_F1);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.first().first().toString(), QString("42.htm"));
+}
+
+void tst_zelQtUiWidget::setupTakesNameAndTopicOfTheDescription_data()
+{
+    QTest::addColumn<QByteArray>("node");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("code");
+    QTest::newRow("both") << QByteArray(R"(<external name="form" help="7"/>)") << "form" << 7;
+    QTest::newRow("no topic leaves that of the form")
+        << QByteArray(R"(<external name="form"/>)") << "form" << 1203;
+    QTest::newRow("neither") << QByteArray("<external/>") << QString() << 1203;
+}
+
+void tst_zelQtUiWidget::setupTakesNameAndTopicOfTheDescription()
+{
+    QFETCH(QByteArray, node);
+    ZelFaultList faults;
+    const auto document = ZelDomDocument::fromText(node.toStdString(), "form.xml", faults);
+    Form form(1203, nullptr);
+    form.setup(document.root());
+    QTEST(form.objectName(), "name");
+    QTEST(form.authorItCode(), "code");
+}
+
+void tst_zelQtUiWidget::formFollowsEnabledAndVisible()
+{
+    QWidget window;
+    Form form(&window);
+    window.show();
+    ZelUIObject &node = form;
+    form.mEnabled = false;
+    node.updateState(nullptr, 0);
+    QVERIFY(form.isVisible() && !form.isEnabled());
+    form.mVisible = false;
+    form.mEnabled = true;
+    node.updateState(nullptr, 0);
+    QVERIFY(!form.isVisible() && form.isEnabled());
 }
 
 QTEST_MAIN(tst_zelQtUiWidget)
