@@ -15,7 +15,16 @@
 
 /// The spring as an application loads it, and the values that its worked examples must yield.
 namespace SpringTest {
-/// A line of tests/data/S1.expected: variable, unit and six digits, or no value.
+/// The expected values of an example lie beside its values; those of the other correction, which no
+/// example file asks for, beside the tests.
+inline QString expectedFile(const QString &example)
+{
+    const bool shipped = !example.contains('.');
+    return QStringLiteral("%1/%2.expected")
+        .arg(shipped ? SPRING_DIR "/examples" : TEST_DATA_DIR, example);
+}
+
+/// A line of S1.expected: variable, unit and six digits, or no value.
 struct Expected
 {
     QString mName;
@@ -35,7 +44,7 @@ inline QByteArray fileContent(const QString &path)
 inline QVector<Expected> expectedResults(const QString &example)
 {
     QVector<Expected> rows;
-    const QByteArray bytes = fileContent(TEST_DATA_DIR "/" + example + ".expected");
+    const QByteArray bytes = fileContent(expectedFile(example));
     const QStringList lines = QString::fromUtf8(bytes).split('\n', Qt::SkipEmptyParts);
     for (const QString &line : lines) {
         const QStringList cells = line.split('\t');
