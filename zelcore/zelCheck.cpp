@@ -2,8 +2,10 @@
 
 #include "zelCheckParts_p.h"
 #include "zelMask.h"
+#include "zelSchema.h"
 #include "zelTextForm.h"
 #include "zelUiPlainFactory.h"
+#include "zelUnitsText.h"
 
 #include <algorithm>
 #include <array>
@@ -21,11 +23,14 @@ constexpr int badCall = 2;
 
 constexpr const char *usage =
     "usage: zelcheck [--calculate VALUES] [--language LANGUAGE] [--us] [--texts] FILE\n"
+    "       zelcheck --schema | --units | --help\n"
     "  FILE                 description whose faults are listed\n"
     "  --calculate VALUES   fills the mask from a file of values, calculates, prints the results\n"
     "  --language LANGUAGE  de, en, fr, it, es, ru, pt, zh or ja; de without it\n"
     "  --us                 US customary units\n"
     "  --texts              lists the texts without translation into the language, en without it\n"
+    "  --schema             prints the page of documentation about descriptions\n"
+    "  --units              prints the page of documentation about units\n"
     "Exit code: 0; 1 for faults or a refused calculation; 2 for a bad call or file.\n";
 
 // In the order of the languages.
@@ -39,8 +44,14 @@ struct Call
     std::optional<ZelLanguage> mLanguage;
     bool mUSCustomary = false;
     bool mTexts = false;
-    bool mHelp = false;
+    /// Printed instead of reading a file.
+    std::string (*mPage)() = nullptr;
 };
+
+std::string usagePage()
+{
+    return usage;
+}
 
 std::optional<ZelLanguage> languageOf(const std::string &code)
 {
@@ -74,7 +85,11 @@ std::optional<Call> parse(const std::vector<std::string> &arguments, std::ostrea
         } else if (argument == "--texts") {
             call.mTexts = true;
         } else if (argument == "--help") {
-            call.mHelp = true;
+            call.mPage = usagePage;
+        } else if (argument == "--schema") {
+            call.mPage = zelSchemaMarkdown;
+        } else if (argument == "--units") {
+            call.mPage = zelUnitsMarkdown;
         } else if (argument.starts_with("--")) {
             return refuse("unknown option " + argument);
         } else if (!call.mFile.empty()) {
@@ -83,7 +98,7 @@ std::optional<Call> parse(const std::vector<std::string> &arguments, std::ostrea
             call.mFile = argument;
         }
     }
-    if (call.mFile.empty() && !call.mHelp)
+    if (call.mFile.empty() && !call.mPage)
         return refuse("no file");
     return call;
 }
@@ -192,8 +207,8 @@ int zelCheckMain(const std::vector<std::string> &arguments, std::ostream &out, s
     const std::optional<Call> call = parse(arguments, err);
     if (!call)
         return badCall;
-    if (call->mHelp) {
-        out << usage;
+    if (call->mPage) {
+        out << call->mPage();
         return good;
     }
     return run(*call, out, err, registry);

@@ -11,6 +11,7 @@ class ZelModuleRegistry;
 /// The program zelcheck: lists the faults of a description, and calculates it without a display.
 ///
 ///     zelcheck [--calculate VALUES] [--language de|en|...] [--us] [--texts] FILE
+///     zelcheck --schema | --units | --help
 ///
 /// `arguments` are those behind the program's name. Faults go to `err`, everything else to `out`.
 /// The answer is the exit code: 0; 1 when there are faults or the calculation refuses; 2 for a bad

@@ -78,7 +78,7 @@ ZELCORE_EXPORT std::span<const ZelSchemaTag> zelSchemaTags();
 ZELCORE_EXPORT const ZelSchemaTag *zelSchemaTag(std::string_view tag, const ZelSchemaTag *parent);
 /// The kind of a value in words: "a number", "true or false".
 ZELCORE_EXPORT std::string zelSchemaTypeText(const ZelSchemaAttribute &attribute);
-/// The schema as a page of documentation.
+/// What descriptionFormat.md says, and the schema, as a page of documentation.
 ZELCORE_EXPORT std::string zelSchemaMarkdown();
 
 /// Checks a description against the schema and its names against each other, and takes out what is

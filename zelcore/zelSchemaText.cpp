@@ -1,3 +1,4 @@
+#include "zelDescriptionFormat_p.h"
 #include "zelSchema.h"
 
 #include <algorithm>
@@ -140,9 +141,8 @@ std::string zelSchemaTypeText(const ZelSchemaAttribute &attribute)
 
 std::string zelSchemaMarkdown()
 {
-    std::string text = "# Tags of a description\n\n"
-                       "A description is a file in XML and UTF-8 with the root `<module>`. "
-                       "Attributes that are not marked as required may be left out.\n";
+    std::string text(zelDescriptionFormatText());
+    text += "\n# Tags\n\nAttributes that are not marked as required may be left out.\n";
     for (const ZelSchemaTag &tag : zelSchemaTags())
         text += section(tag);
     return text;
