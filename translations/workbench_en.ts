@@ -237,6 +237,10 @@
         <source>Hilfethema %1</source>
         <translation>Help topic %1</translation>
     </message>
+    <message>
+        <source>Infothema %1</source>
+        <translation>Info topic %1</translation>
+    </message>
 </context>
 <context>
     <name>ModulePage</name>

@@ -59,12 +59,39 @@ ZelQtGroupBox::~ZelQtGroupBox() = default;
 // The order of the connections is the order of the signals.
 void ZelQtGroupBox::init()
 {
+    takeInactiveText();
+    connect(this, &QGroupBox::clicked, this, &ZelQtGroupBox::emitValueChanged);
+    connect(this, &QGroupBox::clicked, this, &ZelQtGroupBox::emitValueConfirmed);
+}
+
+void ZelQtGroupBox::takeInactiveText()
+{
     QPalette own = palette();
     own.setColor(QPalette::Inactive, QPalette::WindowText,
                  QApplication::palette().color(QPalette::Inactive, QPalette::WindowText));
     setPalette(own);
-    connect(this, &QGroupBox::clicked, this, &ZelQtGroupBox::emitValueChanged);
-    connect(this, &QGroupBox::clicked, this, &ZelQtGroupBox::emitValueConfirmed);
+}
+
+// A palette keeps or inherits a role in all its groups: having set the inactive text, the box would
+// keep the whole role when the colours of the application change, and so would all labels in it.
+void ZelQtGroupBox::followPalette()
+{
+    const QPalette outer = parentWidget() ? parentWidget()->palette() : QApplication::palette();
+    QPalette own = palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Disabled})
+        own.setColor(group, QPalette::WindowText, outer.color(group, QPalette::WindowText));
+    own.setColor(QPalette::Inactive, QPalette::WindowText,
+                 QApplication::palette().color(QPalette::Inactive, QPalette::WindowText));
+    // Setting it comes back here as another change.
+    if (own != palette())
+        setPalette(own);
+}
+
+void ZelQtGroupBox::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        followPalette();
+    QGroupBox::changeEvent(event);
 }
 
 void ZelQtGroupBox::setup(const ZelDomNode *node)

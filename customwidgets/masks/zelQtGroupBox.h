@@ -44,6 +44,11 @@ private Q_SLOTS:
     void emitValueChanged();
     void emitValueConfirmed();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void init();
+    void takeInactiveText();
+    void followPalette();
 };

@@ -7,6 +7,7 @@
 #include "zelQtColumnLayout.h"
 
 #include <QGraphicsView>
+#include <QLabel>
 
 namespace {
 
@@ -47,6 +48,7 @@ class tst_zelQtGroupBox : public QObject
 private Q_SLOTS:
     void titleComesWithTheConstructor();
     void inactiveTextTakesTheColourOfTheApplication();
+    void inactiveTextFollowsTheApplication();
     void layoutOfHeadColumnsAndFoot_data();
     void layoutOfHeadColumnsAndFoot();
     void headThatIsNoLayoutIsSkipped();
@@ -80,6 +82,23 @@ void tst_zelQtGroupBox::inactiveTextTakesTheColourOfTheApplication()
     QVERIFY(expected != QColor(Qt::magenta));
     for (const ZelQtGroupBox *group : {&unnamed, &named})
         QCOMPARE(group->palette().color(QPalette::Inactive, QPalette::WindowText), expected);
+}
+
+void tst_zelQtGroupBox::inactiveTextFollowsTheApplication()
+{
+    const QPalette before = QApplication::palette();
+    QWidget parent;
+    ZelQtGroupBox group(&parent);
+    const QLabel label(&group);
+    QPalette dark(QColor(43, 43, 43));
+    dark.setColor(QPalette::Active, QPalette::WindowText, Qt::yellow);
+    dark.setColor(QPalette::Inactive, QPalette::WindowText, Qt::cyan);
+    QApplication::setPalette(dark);
+    QCoreApplication::processEvents();
+    const QPalette followed = label.palette();
+    QApplication::setPalette(before);
+    QCOMPARE(followed.color(QPalette::Inactive, QPalette::WindowText), QColor(Qt::cyan));
+    QCOMPARE(followed.color(QPalette::Active, QPalette::WindowText), QColor(Qt::yellow));
 }
 
 void tst_zelQtGroupBox::layoutOfHeadColumnsAndFoot_data()

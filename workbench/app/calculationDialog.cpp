@@ -5,6 +5,7 @@
 #include "zelQtDialogButtonBox.h"
 #include "zelTextForm.h"
 
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
@@ -42,7 +43,7 @@ CalculationDialog::CalculationDialog(const std::string &description,
     connect(mMask, &MaskView::valueConfirmed, this, &ZelQtParentDialog::emitValueConfirmed);
     connect(mMessages, &MessagePanel::variableRequested, mMask, &MaskView::focusVariable);
     setupDialogButtonBox();
-    resize(900, 640);
+    resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
 }
 
 CalculationDialog::~CalculationDialog()

@@ -13,5 +13,6 @@ struct ExampleCheck
 };
 
 /// Compares what `meta` holds with a file of lines "name, unit, value" (separated by tabs, "#"
-/// begins a comment, "none" as value expects none). A value is right within 1e-5 of the expected one.
+/// begins a comment, "none" as value expects none). A value is right within 1e-5 of the expected
+/// one.
 ExampleCheck checkExample(const Meta &meta, const QString &expectedFile);

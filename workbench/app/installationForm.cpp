@@ -37,7 +37,11 @@ InstallationForm::~InstallationForm() = default;
 
 void InstallationForm::makeLines()
 {
-    auto *layout = new QVBoxLayout(this);
+    // The lines keep their natural width at the left.
+    auto *row = new QHBoxLayout(this);
+    auto *layout = new QVBoxLayout;
+    row->addLayout(layout);
+    row->addStretch();
     const auto add = [&](ZelQtSingleCalcVarInput *line, const char *name, const char *unit,
                          const char *formula, int decimals) {
         line->setObjectName(QString::fromLatin1(name));
@@ -54,8 +58,8 @@ void InstallationForm::makeLines()
     add(mClearance, "clearance", "mm", "s<sub>H</sub>", 3);
     add(mTilt, "tilt", "°", "φ", 2);
     add(mWeight, "weight", "N", "F<sub>G</sub>", 4);
-    add(mLengths, "lengths", "mm", "L<sub>1</sub>, L<sub>2</sub>", 2);
-    add(mRoom, "room", "mm", "l × b × h", 1);
+    add(mLengths, "lengths", "mm", "L<sub>1</sub>, L<sub>2</sub>", 3);
+    add(mRoom, "room", "mm", "l × b × h", 2);
     layout->addStretch();
 
     mSleeve->setBottom(0);
@@ -75,6 +79,16 @@ void InstallationForm::retranslateStrings()
     ZelQtUiWidget::retranslateStrings();
     // A form in a mask passes language changes by, so it aligns its lines itself.
     resizeLayout();
+}
+
+QList<ZelQtCalcVarInput *> InstallationForm::lines() const
+{
+    return {mSleeve, mClearance, mTilt, mWeight, mLengths, mRoom};
+}
+
+void InstallationForm::resizeLayout()
+{
+    ZelQtCalcVarInput::checkVBoxSize(lines(), true);
 }
 
 const ZelUIVar *InstallationForm::variable(const char *name) const
@@ -148,9 +162,11 @@ void InstallationForm::showFit()
     mWeight->setWert(value("mass") / gramsPerKilogram * standardGravity * std::cos(tilt),
                      defaultUnit);
 
-    const auto state = [calculated](bool fits) {
-        return fits || !calculated ? noMessage : errorMessage;
+    // A side that nobody entered is no fault.
+    const auto state = [calculated](double side, double needed) {
+        return calculated && side > 0 && side < needed ? errorMessage : noMessage;
     };
-    const bool wide = value("room", 1) >= outside && value("room", 2) >= outside;
-    mRoom->setMessageState(state(value("room", 0) >= value("L1")), noMessage, state(wide));
+    const double narrowSide = qMin(value("room", 1), value("room", 2));
+    mRoom->setMessageState(state(value("room", 0), value("L1")), noMessage,
+                           state(narrowSide, outside));
 }

@@ -3,6 +3,7 @@
 #include "zelQtUiWidget.h"
 
 class Meta;
+class ZelQtCalcVarInput;
 class ZelQtDoubleCalcVarInput;
 class ZelQtSingleCalcVarInput;
 class ZelQtTripleCalcVarInput;
@@ -29,9 +30,11 @@ public Q_SLOTS:
 
 protected:
     void retranslateStrings() override;
+    void resizeLayout() override;
 
 private:
     void makeLines();
+    QList<ZelQtCalcVarInput *> lines() const;
     void showFit();
     double value(const char *name, int component = 0) const;
     bool isKnown(const char *name) const;

@@ -14,8 +14,15 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTabWidget>
+
+namespace {
+
+constexpr int moduleListWidth = 170;
+
+} // namespace
 
 MainWindow::MainWindow(AppLanguage &language, AppUnitSystem &units, ModuleCatalogue &catalogue,
                        QWidget *parent)
@@ -43,7 +50,8 @@ MainWindow::MainWindow(AppLanguage &language, AppUnitSystem &units, ModuleCatalo
 
     retranslateStrings();
     updateActions();
-    resize(1100, 760);
+    resizeDocks({mModuleDock}, {moduleListWidth}, Qt::Horizontal);
+    resize(QSize(1340, 780).boundedTo(screen()->availableSize()));
 }
 
 MainWindow::~MainWindow() = default;
@@ -207,6 +215,10 @@ ModulePage *MainWindow::openModule(const QString &id)
     ModulePage *opened = page.release();
     connect(opened, &ModulePage::consistencyChanged, this, &MainWindow::updateActions);
     connect(opened, &ZelQtParentWidget::helpChanged, this, &MainWindow::showHelpTopic);
+    connect(opened, qOverload<int>(&ZelQtParentWidget::infoChanged), this,
+            [this](int id) { showInfoTopic(QString::number(id)); });
+    connect(opened, qOverload<QString>(&ZelQtParentWidget::infoChanged), this,
+            &MainWindow::showInfoTopic);
     mTabs->setCurrentIndex(mTabs->addTab(opened, opened->title()));
     updateActions();
     return opened;
@@ -298,6 +310,11 @@ void MainWindow::showHelpTopic(const QString &file)
 {
     statusBar()->showMessage(file.isEmpty() ? tr("Zu dieser Stelle gibt es kein Hilfethema.")
                                             : tr("Hilfethema %1").arg(file));
+}
+
+void MainWindow::showInfoTopic(const QString &topic)
+{
+    statusBar()->showMessage(tr("Infothema %1").arg(topic));
 }
 
 void MainWindow::applyUnitSystem()

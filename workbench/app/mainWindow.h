@@ -56,6 +56,7 @@ private:
     void openDialog();
     void showAbout();
     void showHelpTopic(const QString &file);
+    void showInfoTopic(const QString &topic);
     void applyUnitSystem();
 
     AppLanguage &mLanguage;

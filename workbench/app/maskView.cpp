@@ -57,14 +57,14 @@ void MaskView::placePages()
     area->setFrameShape(QFrame::NoFrame);
     layout->addWidget(area);
 
-    auto *content = new NaturalSize(area);
-    area->setWidget(content);
+    mContent = new NaturalSize(area);
+    area->setWidget(mContent);
     const auto &pages = mMask->pages();
     if (pages.size() == 1) {
-        content->layout()->addWidget(dynamic_cast<QWidget *>(pages.front()));
+        mContent->layout()->addWidget(dynamic_cast<QWidget *>(pages.front()));
         return;
     }
-    auto *tabs = new QTabWidget(content);
+    auto *tabs = new QTabWidget(mContent);
     for (ZelUITabPage *page : pages) {
         auto *widget = dynamic_cast<QWidget *>(page);
         tabs->addTab(widget, widget->windowTitle());
@@ -72,7 +72,7 @@ void MaskView::placePages()
             tabs->setTabText(tabs->indexOf(widget), title);
         });
     }
-    content->layout()->addWidget(tabs);
+    mContent->layout()->addWidget(tabs);
 }
 
 // Fields report to the nearest host, which is their page or form: each is listened to. Information
@@ -106,6 +106,11 @@ void MaskView::takeFromForm(ZelQtUiWidget *form)
     form->getData();
     refresh();
     Q_EMIT valueConfirmed();
+}
+
+QSize MaskView::sizeHint() const
+{
+    return mContent->sizeHint();
 }
 
 void MaskView::refresh()

@@ -30,6 +30,8 @@ public:
     void focusVariable(const QString &name);
 
     Meta &meta() const { return mMask->meta(); }
+    /// Room for the largest page without scrolling.
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     /// A value changed in some field; editing may go on.
@@ -49,6 +51,7 @@ private:
 
     ZelQtUiFactory mFactory;
     std::unique_ptr<ZelMask> mMask;
+    QWidget *mContent = nullptr;
     QList<ZelQtUiWidget *> mForms;
     QList<ZelQtValueEdit *> mFields;
 };

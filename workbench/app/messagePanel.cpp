@@ -1,8 +1,10 @@
 #include "messagePanel.h"
 
 #include "zelQtConversions.h"
+#include "zelQtItemDelegate.h"
 
 #include <QIcon>
+#include <QRegularExpression>
 
 namespace {
 
@@ -19,7 +21,14 @@ QString iconFile(ZelMessageSeverity severity)
     return QStringLiteral(":/msgInfo.svg");
 }
 
-constexpr int linesShown = 4;
+constexpr int linesShown = 3;
+
+// Messages name quantities as authors write them: "L_0" shows as L with a lowered 0.
+QString withSymbols(const QString &text)
+{
+    static const QRegularExpression symbol(QStringLiteral("(\\p{L}+)_([\\p{L}\\d]+)"));
+    return text.toHtmlEscaped().replace(symbol, QStringLiteral("\\1<sub>\\2</sub>"));
+}
 
 } // namespace
 
@@ -27,8 +36,11 @@ MessagePanel::MessagePanel(QWidget *parent)
     : QListWidget(parent)
 {
     setObjectName(QStringLiteral("messages"));
-    setWordWrap(true);
     setAlternatingRowColors(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    auto *delegate = new ZelQtItemDelegate(this);
+    delegate->initRendering();
+    setItemDelegate(delegate);
     connect(this, &QListWidget::itemActivated, this, [this](const QListWidgetItem *item) {
         const QString variable = item->data(Qt::UserRole).toString();
         if (!variable.isEmpty())
@@ -42,8 +54,9 @@ void MessagePanel::showMessages(const std::vector<ZelCalcMessage> &messages)
 {
     clear();
     for (const ZelCalcMessage &message : messages) {
-        auto *item = new QListWidgetItem(QIcon(iconFile(message.mSeverity)),
-                                         toQString(message.text()), this);
+        const QString text = withSymbols(toQString(message.text()));
+        auto *item = new QListWidgetItem(QIcon(iconFile(message.mSeverity)), text, this);
+        item->setToolTip(text);
         if (!message.mVariables.empty())
             item->setData(Qt::UserRole, toQString(message.mVariables.front()));
     }
