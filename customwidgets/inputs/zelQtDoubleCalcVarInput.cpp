@@ -21,11 +21,11 @@ ZelQtDoubleCalcVarInput::ZelQtDoubleCalcVarInput(QWidget *parent)
 
 ZelQtDoubleCalcVarInput::~ZelQtDoubleCalcVarInput() = default;
 
-void ZelQtDoubleCalcVarInput::misuse(const char *text, const std::source_location &place) const
+void ZelQtDoubleCalcVarInput::misuse(const char *text, const char *file, long line) const
 {
     // An exception out of a slot would end the program.
     if (sender())
-        internMessage(place.file_name(), static_cast<long>(place.line()), text);
+        internMessage(file, line, text);
     else
         throw std::logic_error(text);
 }
@@ -111,7 +111,8 @@ void ZelQtDoubleCalcVarInput::setEditable(bool editable)
 {
     if (mReact1 != mReact2) {
         misuse("ZelQtDoubleCalcVarInput::setEditable(bool) wurde für Eingabefelder mit "
-               "unterschiedlichem Verhalten verwendet");
+               "unterschiedlichem Verhalten verwendet",
+               __FILE__, __LINE__);
         return;
     }
     ZelQtCalcVarInput::setEditable(editable);
@@ -140,7 +141,8 @@ void ZelQtDoubleCalcVarInput::setReactToToggle(bool first, bool second)
 {
     if (!first && !second) {
         misuse("ZelQtDoubleCalcVarInput::setReactToToggle() kein Eingabefeld kommuniziert mit dem "
-               "Edit-Button");
+               "Edit-Button",
+               __FILE__, __LINE__);
         return;
     }
     mReact1 = first;

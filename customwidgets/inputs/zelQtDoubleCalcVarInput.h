@@ -2,8 +2,6 @@
 
 #include "zelQtSingleCalcVarInput.h"
 
-#include <source_location>
-
 /// A line with two numbers of one unit. With a priority set, the field that the user did not type
 /// in last is shown in gray.
 class CUSTOMWIDGETS_EXPORT ZelQtDoubleCalcVarInput : public ZelQtSingleCalcVarInput
@@ -68,8 +66,7 @@ protected:
 
     /// Misuse of the line: throws, or reports where a signal leads here and an exception would end
     /// the program.
-    void misuse(const char *text,
-                const std::source_location &place = std::source_location::current()) const;
+    void misuse(const char *text, const char *file, long line) const;
     /// Shows a field in another unit; the value stays.
     static void showInUnit(ZelQtValueEdit *field, const QString &unit);
 

@@ -2,6 +2,7 @@
 
 #include <QVector>
 
+class QObject;
 class ZelQtValueEdit;
 
 // The gray mark over the fields of a line.

@@ -91,7 +91,8 @@ void ZelQtTripleCalcVarInput::setEditable(bool editable)
     // Narrower than it looks, and meant so: with true, true, false this is no misuse.
     if (mReact1 != mReact2 && mReact1 != mReact3) {
         misuse("ZelQtTripleCalcVarInput::setEditable(bool) wurde für Eingabefelder mit "
-               "unterschiedlichem Verhalten verwendet");
+               "unterschiedlichem Verhalten verwendet",
+               __FILE__, __LINE__);
         return;
     }
     ZelQtCalcVarInput::setEditable(editable);
@@ -126,7 +127,8 @@ void ZelQtTripleCalcVarInput::setReactToToggle(bool first, bool second, bool thi
 {
     if (!first && !second && !third) {
         misuse("ZelQtTripleCalcVarInput::setReactToToggle() kein Eingabefeld kommuniziert mit dem "
-               "Edit-Button");
+               "Edit-Button",
+               __FILE__, __LINE__);
         return;
     }
     mReact1 = first;

@@ -166,7 +166,6 @@ private Q_SLOTS:
     void graphicsViewCountsAsView();
     void graphicsViewMakesTheContentVisibleWhileItShows();
     void elementsMakeTheContentVisible();
-    void columnsOfFourThousandLinesFillQuickly();
 };
 
 void tst_zelQtColumnLayout::layoutWithParentInstallsItself()
@@ -333,39 +332,6 @@ void tst_zelQtColumnLayout::elementsMakeTheContentVisible()
     QVERIFY(mask.mColumn->isContentVisible());
     flag.mVisible = false;
     QVERIFY(!mask.mColumn->isContentVisible());
-}
-
-// Guards against work that grows with the square of the lines, where four times the lines would
-// take sixteen times as long.
-void tst_zelQtColumnLayout::columnsOfFourThousandLinesFillQuickly()
-{
-    const auto fill = [](size_t count) {
-        std::vector<ZelUIFlagElement> flags(count);
-        std::vector<std::unique_ptr<Flag>> parts;
-        ZelQtColumnLayout column;
-        for (ZelUIFlagElement &flag : flags) {
-            parts.push_back(std::make_unique<Flag>());
-            flag.mFlag = parts.back().get();
-        }
-        QElapsedTimer timer;
-        timer.start();
-        for (ZelUIFlagElement &flag : flags)
-            column.addFlagElement(&flag);
-        column.finishLayout();
-        for (int i = 0; i < 10; ++i)
-            column.setData(nullptr, 0);
-        return timer.nsecsElapsed();
-    };
-    const auto best = [&fill](size_t count) {
-        qint64 time = std::numeric_limits<qint64>::max();
-        for (int i = 0; i < 5; ++i)
-            time = std::min(time, fill(count));
-        return time;
-    };
-    const qint64 thousand = best(1000);
-    const qint64 fourThousand = best(4000);
-    QVERIFY2(fourThousand < 10 * thousand,
-             qPrintable(QString("%1 ns, %2 ns").arg(thousand).arg(fourThousand)));
 }
 
 QTEST_MAIN(tst_zelQtColumnLayout)
