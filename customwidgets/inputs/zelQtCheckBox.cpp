@@ -1,6 +1,6 @@
 #include "zelQtCheckBox.h"
 
-#include "zelQtShortConfirmation_p.h"
+#include "zelQtConfirmation_p.h"
 #include "zelQtToggleSize_p.h"
 
 ZelQtCheckBox::ZelQtCheckBox(QWidget *parent)

@@ -2,7 +2,7 @@
 
 #include "zelQtConversions.h"
 #include "zelQtItemDelegate.h"
-#include "zelQtShortConfirmation_p.h"
+#include "zelQtConfirmation_p.h"
 #include "zelQtTextHelpers.h"
 
 #include <QAbstractItemView>

@@ -2,7 +2,7 @@
 
 #include "zelQtCheckBox.h"
 #include "zelQtRadioButton.h"
-#include "zelQtShortConfirmation_p.h"
+#include "zelQtConfirmation_p.h"
 #include "zelUIMultiVar.h"
 
 #include <QEvent>

@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QDir>
 #include <QKeyEvent>
+#include <QPointer>
 
 namespace {
 
@@ -87,8 +88,10 @@ void ZelQtFileEdit::setFileList(const QStringList &directories, const QStringLis
 void ZelQtFileEdit::setFile(const QString &file)
 {
     setText(file);
+    const QPointer<ZelQtFileEdit> guard(this); // a listener may delete the field
     emitValueChanged();
-    emitValueConfirmed();
+    if (guard)
+        emitValueConfirmed();
 }
 
 void ZelQtFileEdit::insertCompletion(const QString &completion)

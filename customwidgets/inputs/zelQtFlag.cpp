@@ -1,7 +1,7 @@
 #include "zelQtFlag.h"
 
 #include "zelQtConversions.h"
-#include "zelQtShortConfirmation_p.h"
+#include "zelQtConfirmation_p.h"
 #include "zelQtTextHelpers.h"
 
 ZelQtFlag::ZelQtFlag(QWidget *parent)

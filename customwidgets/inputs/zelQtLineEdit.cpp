@@ -1,6 +1,6 @@
 #include "zelQtLineEdit.h"
 
-#include "zelQtWidgetHelpers_p.h"
+#include "zelQtConfirmation_p.h"
 
 #include <QKeyEvent>
 
@@ -91,8 +91,7 @@ void ZelQtLineEdit::needsToBeConfirmed()
 void ZelQtLineEdit::emitValueChanged()
 {
     mNeedsConfirm = true;
-    notifyHostValueChanged(this);
-    Q_EMIT valueChanged();
+    tellValueChanged(this);
 }
 
 void ZelQtLineEdit::emitValueConfirmed()
@@ -100,8 +99,7 @@ void ZelQtLineEdit::emitValueConfirmed()
     if (!mNeedsConfirm)
         return;
     mNeedsConfirm = false;
-    notifyHostValueConfirmed(this);
-    Q_EMIT valueConfirmed();
+    tellValueConfirmed(this);
 }
 
 bool ZelQtLineEdit::event(QEvent *event)

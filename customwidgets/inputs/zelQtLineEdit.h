@@ -6,7 +6,9 @@
 
 /// A line of text that tells a change under way, valueChanged(), from one that is finished,
 /// valueConfirmed(). Base of all fields for numbers, texts and files. Its own undo is out of reach
-/// by keyboard: Ctrl+Z and Ctrl+Y go to the application.
+/// by keyboard: Ctrl+Z and Ctrl+Y go to the application. A listener may delete a field that is told
+/// to confirm or that confirms by Return; while the user types or leaves it, Qt goes on with the
+/// field behind the signal, so that only deleteLater() will do.
 class CUSTOMWIDGETS_EXPORT ZelQtLineEdit : public QLineEdit
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 #include "zelQtNotepad.h"
 
+#include "zelQtConfirmation_p.h"
 #include "zelQtConversions.h"
-#include "zelQtWidgetHelpers_p.h"
 
 ZelQtNotepad::ZelQtNotepad(QWidget *parent)
     : QTextEdit(parent)
@@ -58,8 +58,7 @@ void ZelQtNotepad::needsToBeConfirmed()
 void ZelQtNotepad::emitValueChanged()
 {
     mNeedsConfirm = true;
-    notifyHostValueChanged(this);
-    Q_EMIT valueChanged();
+    tellValueChanged(this);
 }
 
 void ZelQtNotepad::emitValueConfirmed()
@@ -67,12 +66,13 @@ void ZelQtNotepad::emitValueConfirmed()
     if (!mNeedsConfirm)
         return;
     mNeedsConfirm = false;
-    notifyHostValueConfirmed(this);
-    Q_EMIT valueConfirmed();
+    tellValueConfirmed(this);
 }
 
 void ZelQtNotepad::focusOutEvent(QFocusEvent *event)
 {
+    const QPointer<ZelQtNotepad> guard(this); // a listener may delete the field
     emitValueConfirmed();
-    QTextEdit::focusOutEvent(event);
+    if (guard)
+        QTextEdit::focusOutEvent(event);
 }

@@ -1,6 +1,6 @@
 #include "zelQtRadioButton.h"
 
-#include "zelQtShortConfirmation_p.h"
+#include "zelQtConfirmation_p.h"
 #include "zelQtToggleSize_p.h"
 
 ZelQtRadioButton::ZelQtRadioButton(QWidget *parent)

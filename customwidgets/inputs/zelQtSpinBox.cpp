@@ -1,6 +1,6 @@
 #include "zelQtSpinBox.h"
 
-#include "zelQtShortConfirmation_p.h"
+#include "zelQtConfirmation_p.h"
 
 #include <QScopedValueRollback>
 

@@ -1,5 +1,6 @@
 #include "zelQtGroupBox.h"
 
+#include "zelQtConfirmation_p.h"
 #include "zelQtConversions.h"
 #include "zelQtModelParts_p.h"
 #include "zelQtSpacerItems.h"
@@ -145,12 +146,10 @@ void ZelQtGroupBox::disableValueChanged()
 
 void ZelQtGroupBox::emitValueChanged()
 {
-    notifyHostValueChanged(this);
-    Q_EMIT valueChanged();
+    tellValueChanged(this);
 }
 
 void ZelQtGroupBox::emitValueConfirmed()
 {
-    notifyHostValueConfirmed(this);
-    Q_EMIT valueConfirmed();
+    tellValueConfirmed(this);
 }
