@@ -23,6 +23,10 @@ private slots:
     void keyboardLeavesTheEventToItsParent();
     void fieldMayGoWhileItsPopupIsOpen_data();
     void fieldMayGoWhileItsPopupIsOpen();
+    void fieldMayGoWhileTheUserTypesInItsPopup_data();
+    void fieldMayGoWhileTheUserTypesInItsPopup();
+    void fieldMayGoWithTheResultOfItsPopup_data();
+    void fieldMayGoWithTheResultOfItsPopup();
 };
 
 namespace {
@@ -151,6 +155,78 @@ void tst_zelQtValueEdit_popups::fieldMayGoWhileItsPopupIsOpen()
     QVERIFY(popup.ran());
     QVERIFY(!field);
     QCOMPARE(parent.mCount, 0);
+}
+
+void tst_zelQtValueEdit_popups::fieldMayGoWhileTheUserTypesInItsPopup_data()
+{
+    fieldMayGoWhileItsPopupIsOpen_data();
+}
+
+void tst_zelQtValueEdit_popups::fieldMayGoWhileTheUserTypesInItsPopup()
+{
+    // The page hears the keys of the popup as well. The line that handles the key has to outlast
+    // it.
+    QFETCH(QString, unit);
+    RecordedPage page;
+    const QPointer<ZelQtValueEdit> field(new ZelQtValueEdit(unit, &page));
+    connect(&page, &ZelQtParentWidget::valueChanged, this, [&field] { delete field.data(); });
+    QVERIFY(showAndActivate(&page));
+    bool closed = false;
+    const auto popup = onPopup<QMenu>([&closed](QMenu *menu) {
+        auto *line = menu->findChild<QLineEdit *>();
+        line->selectAll();
+        QTest::keyClick(line, Qt::Key_1);
+        closed = !menu->isVisible();
+        QCOMPARE(line->text(), QStringLiteral("1"));
+        QVERIFY(!menu->parent());
+    });
+    sendContextMenu(*field);
+    QVERIFY(popup.ran());
+    QVERIFY(!field);
+    QVERIFY(closed);
+    // Closing confirms what was typed, as leaving any field does.
+    QCOMPARE(
+        page.take(),
+        QStringList({QStringLiteral("host valueChanged"), QStringLiteral("host valueConfirmed")}));
+}
+
+void tst_zelQtValueEdit_popups::fieldMayGoWithTheResultOfItsPopup_data()
+{
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<bool>("byHost");
+    QTest::newRow("formula, host") << "mm" << true;
+    QTest::newRow("formula, field") << "mm" << false;
+    QTest::newRow("angle, host") << "°" << true;
+    QTest::newRow("angle, field") << "°" << false;
+}
+
+void tst_zelQtValueEdit_popups::fieldMayGoWithTheResultOfItsPopup()
+{
+    QFETCH(QString, unit);
+    QFETCH(bool, byHost);
+    ZelQtFormeleingabe::setEvalFuncPnt(
+        [](const QString &text, double &result) { return (result = text.toDouble()) == 2; });
+    RecordedPage page;
+    const QPointer<ZelQtValueEdit> field(new ZelQtValueEdit(unit, &page));
+    field->setWert(2, QString());
+    page.mRecorder.recordProtocol(field.data(), QStringLiteral("field"));
+    const auto goAway = [&field] { delete field.data(); };
+    if (byHost)
+        connect(&page, &ZelQtParentWidget::valueChanged, this, goAway);
+    else
+        connect(field, &ZelQtValueEdit::valueChanged, this, goAway);
+    QVERIFY(showAndActivate(&page));
+    bool closed = false;
+    const auto popup = onPopup<QMenu>([&closed](QMenu *menu) {
+        QTest::keyClick(menu->findChild<QLineEdit *>(), Qt::Key_Return);
+        closed = !menu->isVisible();
+    });
+    sendContextMenu(*field);
+    ZelQtFormeleingabe::setEvalFuncPnt(nullptr);
+    QVERIFY(popup.ran());
+    QVERIFY(!field);
+    QVERIFY(closed);
+    QCOMPARE(page.take(), QStringList(changedEvents.mid(0, byHost ? 1 : 2)));
 }
 
 QTEST_MAIN(tst_zelQtValueEdit_popups)
