@@ -1,12 +1,11 @@
 #include "zelQtIntValidator.h"
 
+#include "zelQtDigits_p.h"
+
 ZelQtIntValidator::ZelQtIntValidator(QObject *parent)
     : QIntValidator(parent)
 {
-    // The entered text is read without a locale: "1.000" would count as 1 and "1,000" as 0.
-    QLocale locale = QLocale::c();
-    locale.setNumberOptions(QLocale::OmitGroupSeparator | QLocale::RejectGroupSeparator);
-    setLocale(locale);
+    setLocale(digitsOnly());
 }
 
 ZelQtIntValidator::~ZelQtIntValidator() = default;

@@ -1,5 +1,6 @@
 #include "zelQtWinkeleingabe.h"
 
+#include "zelQtDigits_p.h"
 #include "zelQtInputPriority_p.h"
 #include "zelQtSaturate_p.h"
 #include "zelQtTextEdit.h"
@@ -43,7 +44,9 @@ ZelQtTextEdit *ZelQtWinkeleingabe::addField(QGridLayout *layout, int row, const 
     field->setObjectName(name);
     field->setFixedSize(75, 24);
     field->setAlignment(Qt::AlignRight);
-    field->setValidator(new QIntValidator(0, top, field));
+    auto *validator = new QIntValidator(0, top, field);
+    validator->setLocale(digitsOnly());
+    field->setValidator(validator);
     connect(field, &QLineEdit::returnPressed, this, &ZelQtWinkeleingabe::accept);
     layout->addWidget(label, row, 0);
     layout->addWidget(field, row, 1);

@@ -29,6 +29,8 @@ private slots:
     void emptiedFieldDoesNotAccept();
     void fieldsRefuseLargerNumbers_data();
     void fieldsRefuseLargerNumbers();
+    void fieldsTakeDigitsOnlyInEveryLanguage_data();
+    void fieldsTakeDigitsOnlyInEveryLanguage();
     void tabGoesRound();
     void tabCountsOnWhateverHasTheFocus();
     void escapeChangesNothing();
@@ -278,6 +280,29 @@ void tst_zelQtWinkeleingabe::fieldsRefuseLargerNumbers()
     edit->clear();
     QTest::keyClicks(edit, typed);
     QTEST(edit->text(), "text");
+}
+
+void tst_zelQtWinkeleingabe::fieldsTakeDigitsOnlyInEveryLanguage_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::newRow("C") << QLocale::c();
+    QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany);
+    QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedStates);
+    QTest::newRow("French") << QLocale(QLocale::French, QLocale::France);
+}
+
+void tst_zelQtWinkeleingabe::fieldsTakeDigitsOnlyInEveryLanguage()
+{
+    // "1.000" would be read as nothing.
+    QFETCH(QLocale, locale);
+    QLocale::setDefault(locale);
+    ZelQtValueEdit field;
+    ZelQtWinkeleingabe popup(&field, 0);
+    QLineEdit *seconds = fieldOf(&popup, "mSekunden");
+    seconds->clear();
+    QTest::keyClicks(seconds, QStringLiteral("1.0,0 0"));
+    QLocale::setDefault(QLocale::c());
+    QCOMPARE(seconds->text(), QStringLiteral("1000"));
 }
 
 void tst_zelQtWinkeleingabe::tabGoesRound()
