@@ -40,10 +40,15 @@ double allocatedBytes()
     return static_cast<double>(mallinfo2().uordblks);
 }
 
-void print(const std::vector<Comparison> &comparisons)
+void printHead()
 {
     std::printf("%-44s %12s %12s %-6s %7s\n", "case", "library", "plain Qt", "unit", "ratio");
-    for (const Comparison &one : comparisons)
-        std::printf("%-44s %12.4f %12.4f %-6s %7.2f\n", qPrintable(one.mCase), one.mLibrary,
-                    one.mPlain, qPrintable(one.mUnit), one.ratio());
+    std::fflush(stdout);
+}
+
+void print(const Comparison &one)
+{
+    std::printf("%-44s %12.4f %12.4f %-6s %7.2f\n", qPrintable(one.mCase), one.mLibrary, one.mPlain,
+                qPrintable(one.mUnit), one.ratio());
+    std::fflush(stdout);
 }

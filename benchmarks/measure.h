@@ -25,4 +25,6 @@ Comparison compare(const QString &name, const QString &unit, const std::function
                    const std::function<double()> &plain, int runs = 7);
 /// Bytes that the process has allocated and not freed.
 double allocatedBytes();
-void print(const std::vector<Comparison> &comparisons);
+void printHead();
+/// One line of the table, at once: the whole takes a while.
+void print(const Comparison &one);
