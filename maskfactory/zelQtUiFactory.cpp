@@ -42,16 +42,25 @@ void ZelQtUiFactory::discardUnused()
             delete layout.data();
     }
     mLayouts.clear();
-    mNursery.reset();
+    mNurseries.clear();
 }
 
 // Parts start below a hidden widget, which layouts take them away from. A part without any parent
-// would be a window, and some show themselves while they are made.
+// would be a window, and some show themselves while they are made. Only a few share one: taking a
+// widget away costs a walk over all that it leaves behind.
+QWidget *ZelQtUiFactory::nursery()
+{
+    constexpr int fullAt = 16;
+    if (mNurseries.empty() || ++mPartsInNursery > fullAt) {
+        mNurseries.push_back(std::make_unique<QWidget>());
+        mPartsInNursery = 1;
+    }
+    return mNurseries.back().get();
+}
+
 template <class Widget, class... Args> Widget *ZelQtUiFactory::part(Args &&...args)
 {
-    if (!mNursery)
-        mNursery = std::make_unique<QWidget>();
-    return new Widget(std::forward<Args>(args)..., mNursery.get());
+    return new Widget(std::forward<Args>(args)..., nursery());
 }
 
 template <class Layout> Layout *ZelQtUiFactory::layout()
@@ -91,9 +100,7 @@ ZelUIExternalItem *ZelQtUiFactory::makeExternalItem(const zelWString &className)
     const auto form = mForms.find(className);
     if (form == mForms.end())
         return nullptr;
-    if (!mNursery)
-        mNursery = std::make_unique<QWidget>();
-    return form->second(mNursery.get());
+    return form->second(nursery());
 }
 
 ZelUIDialogButtonBox *ZelQtUiFactory::makeDialogButtonBox()

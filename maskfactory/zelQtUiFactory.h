@@ -58,10 +58,12 @@ public:
     ZelUIComboBox *makeComboBox() override;
 
 private:
+    QWidget *nursery();
     template <class Widget, class... Args> Widget *part(Args &&...args);
     template <class Layout> Layout *layout();
 
-    std::unique_ptr<QWidget> mNursery;
+    std::vector<std::unique_ptr<QWidget>> mNurseries;
+    int mPartsInNursery = 0; // of the last one
     std::vector<QPointer<QLayout>> mLayouts;
     std::map<zelWString, FormMaker> mForms;
 };

@@ -115,6 +115,8 @@ private slots:
     void iconButtonsKeepTheirTipsInEveryLanguage();
     void formsAreMadeByName();
     void partsWithoutPlaceAreDeleted();
+    void aThousandPartsWithoutPlaceAreDeleted();
+    void partsLeaveFewSiblingsBehind();
     void layoutsWithoutPlaceAreDeleted();
 };
 
@@ -284,6 +286,31 @@ void tst_zelQtUiFactory::partsWithoutPlaceAreDeleted()
     QVERIFY(!field->isWindow());
     factory.discardUnused();
     QVERIFY(!field);
+}
+
+void tst_zelQtUiFactory::aThousandPartsWithoutPlaceAreDeleted()
+{
+    ZelQtUiFactory factory;
+    std::vector<QPointer<QWidget>> parts;
+    for (int i = 0; i < 1000; ++i) {
+        parts.emplace_back(dynamic_cast<QWidget *>(factory.makeSpacer()));
+        QVERIFY(parts.back());
+        QVERIFY(!parts.back()->isWindow());
+    }
+    factory.discardUnused();
+    for (const QPointer<QWidget> &part : parts)
+        QVERIFY(!part);
+}
+
+// Taking a widget away from its window walks over the whole window: with all parts of a mask below
+// one widget the time of a build would grow with their square.
+void tst_zelQtUiFactory::partsLeaveFewSiblingsBehind()
+{
+    ZelQtUiFactory factory;
+    for (int i = 0; i < 1000; ++i) {
+        const auto *part = dynamic_cast<QWidget *>(factory.makeSpacer());
+        QVERIFY(part->window()->children().size() < 50);
+    }
 }
 
 void tst_zelQtUiFactory::layoutsWithoutPlaceAreDeleted()
