@@ -114,8 +114,7 @@ void VariableCheck::checkInitialNumbers()
     const auto isOutside = [&](double value) {
         return (bottom && value < *bottom) || (top && value > *top);
     };
-    const auto isBroken = [](double value) { return value != std::trunc(value);
-    };
+    const auto isBroken = [](double value) { return value != std::trunc(value); };
     if (numbers->size() != static_cast<size_t>(components))
         badValue(L"initial",
                  std::to_string(components) + (components > 1 ? " numbers" : " number"));

@@ -9,5 +9,6 @@ ZELTYPES_EXPORT void internMessage(const char *file, long line, const char *text
 
 using ZelInternMessageSink = std::function<void(const char *file, long line, const char *text)>;
 
-/// Takes the reports from now on and returns the former sink; an empty one writes to standard error.
+/// Takes the reports from now on and returns the former sink; an empty one writes to standard
+/// error.
 ZELTYPES_EXPORT ZelInternMessageSink setInternMessageSink(ZelInternMessageSink sink);

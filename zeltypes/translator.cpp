@@ -23,8 +23,8 @@ std::string unescaped(std::string_view text)
     std::string result;
     result.reserve(text.size());
     for (size_t i = 0; i < text.size(); ++i) {
-        const bool escape = text[i] == '\\' && i + 1 < text.size()
-            && (text[i + 1] == 'n' || text[i + 1] == 't');
+        const bool escape =
+            text[i] == '\\' && i + 1 < text.size() && (text[i + 1] == 'n' || text[i + 1] == 't');
         if (escape)
             result += text[++i] == 'n' ? '\n' : '\t';
         else
@@ -55,8 +55,8 @@ void setZelLanguage(ZelLanguage language)
     currentLanguage = language;
 }
 
-Translator pool {zelPoolTable()};
-Translator poolUi {zelPoolUiTable()};
+Translator pool{zelPoolTable()};
+Translator poolUi{zelPoolUiTable()};
 
 Translator::Translator(std::string_view table)
 {
@@ -75,7 +75,8 @@ void Translator::add(std::string_view table)
         int id = 0;
         const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), id);
         if (error != std::errc() || end != number.data() + number.size()) {
-            internMessage(__FILE__, __LINE__, "a line of a text table does not begin with a number");
+            internMessage(__FILE__, __LINE__,
+                          "a line of a text table does not begin with a number");
             continue;
         }
         Row row;

@@ -57,4 +57,5 @@ constexpr size_t zelFaultLimit = 100;
 
 /// The faults of one file as lines, the first `limit` of them, then a line with the number of the
 /// others.
-ZELTYPES_EXPORT std::string zelFaultReport(const ZelFaultList &faults, size_t limit = zelFaultLimit);
+ZELTYPES_EXPORT std::string zelFaultReport(const ZelFaultList &faults,
+                                           size_t limit = zelFaultLimit);

@@ -141,9 +141,7 @@ void tst_springMask::typeExample(const QString &example)
     const bool first = example == "S1";
     QVERIFY(type("grade", first ? "eigene Werte" : "SH"));
     QVERIFY(type("load", first ? "statisch" : "dynamisch"));
-    QVERIFY(type("nu",
-                 first ? "0,5: beide Enden fest und geführt"
-                       : "1: beide Enden kippbar"));
+    QVERIFY(type("nu", first ? "0,5: beide Enden fest und geführt" : "1: beide Enden kippbar"));
     tick("nt");
     const Numbers numbers = first
         ? Numbers{{"d", 7},     {"D", 42},    {"n", 8},      {"nt", 10},

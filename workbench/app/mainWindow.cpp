@@ -51,7 +51,7 @@ MainWindow::MainWindow(AppLanguage &language, AppUnitSystem &units, ModuleCatalo
     retranslateStrings();
     updateActions();
     resizeDocks({mModuleDock}, {moduleListWidth}, Qt::Horizontal);
-    resize(QSize(1340, 780).boundedTo(screen()->availableSize()));
+    resize(QSize(1360, 780).boundedTo(screen()->availableSize()));
 }
 
 MainWindow::~MainWindow() = default;
