@@ -44,7 +44,7 @@ private slots:
     void unsizedDialogIsWideEnoughForItsPrompts();
     void sizeOfTheProgramStays();
     void maximizedDialogStaysSo();
-    void dialogIsNoHost();
+    void dialogIsNoHostOnPurpose();
 };
 
 static QDialogButtonBox *boxOf(const ZelQtDialog &dialog)
@@ -284,11 +284,18 @@ void tst_zelQtDialog::maximizedDialogStaysSo()
     QVERIFY(dialog.width() > dialog.sizeHint().width());
 }
 
-void tst_zelQtDialog::dialogIsNoHost()
+void tst_zelQtDialog::dialogIsNoHostOnPurpose()
 {
-    // Neither protocol nor help: a page above it isn't reached either, for it is a window.
-    QVERIFY(!dynamic_cast<ZelQtAuthorItInterface *>(
-        static_cast<QWidget *>(std::make_unique<ZelQtDialog>().get())));
+    // Edits go past it to the page that opened it; F1 ends at the window and asks for nothing.
+    RecordedPage page;
+    ZelQtDialog dialog(&page);
+    QVERIFY(!dynamic_cast<ZelQtAuthorItInterface *>(static_cast<QWidget *>(&dialog)));
+    auto *field = new ZelQtLineEdit;
+    dialog.add(field);
+    QVERIFY(showAndActivate(&dialog) && focus(field));
+    QTest::keyClick(field, Qt::Key_F1);
+    QTest::keyClick(field, Qt::Key_A);
+    QCOMPARE(page.take(), QStringList(QStringLiteral("host valueChanged")));
 }
 
 QTEST_MAIN(tst_zelQtDialog)

@@ -47,7 +47,7 @@ private slots:
     void escapeStillCloses();
     void reportNeedsAPermission_data();
     void reportNeedsAPermission();
-    void calculationNeedsNoPermission();
+    void calculationNeedsNoPermissionOnPurpose();
 
     // button box
     void boxIsWired();
@@ -58,6 +58,7 @@ private slots:
     // pending edits
     void clickOnTheSurfaceConfirmsTheField();
     void clickOnTheSurfaceConfirmsOnce();
+    void fieldMayGoWithAClickOnTheSurface();
     void clickOnTheSurfaceConfirmsTheNotepad();
     void clickOnTheSurfaceLeavesACleanFieldAlone();
     void clickOnTheSurfaceConfirmsAgainstDisabledConfirmation();
@@ -167,7 +168,7 @@ void tst_zelQtParentDialog::reportNeedsAPermission()
     QCOMPARE(dialog.take(), events);
 }
 
-void tst_zelQtParentDialog::calculationNeedsNoPermission()
+void tst_zelQtParentDialog::calculationNeedsNoPermissionOnPurpose()
 {
     CalculatingDialog dialog;
     Box box(Box::CALC_REP_OK_CANCEL, &dialog);
@@ -259,6 +260,20 @@ void tst_zelQtParentDialog::clickOnTheSurfaceConfirmsOnce()
     dialog.clickSurface();
     QTest::keyClick(&field, Qt::Key_Tab);
     QCOMPARE(dialog.take(), QStringList());
+}
+
+void tst_zelQtParentDialog::fieldMayGoWithAClickOnTheSurface()
+{
+    CalculatingDialog dialog;
+    const QPointer<ZelQtLineEdit> field(new ZelQtLineEdit(&dialog));
+    dialog.mRecorder.recordProtocol(field.data(), QStringLiteral("field"));
+    QVERIFY(showAndActivate(&dialog) && focus(field));
+    QTest::keyClick(field, Qt::Key_A);
+    dialog.take();
+    connect(&dialog, &ZelQtParentDialog::valueConfirmed, this, [&field] { delete field.data(); });
+    dialog.clickSurface();
+    QVERIFY(!field);
+    QCOMPARE(dialog.take(), QStringList(QStringLiteral("host valueConfirmed")));
 }
 
 void tst_zelQtParentDialog::clickOnTheSurfaceConfirmsTheNotepad()

@@ -51,7 +51,7 @@ void tst_zelQtTextHelpers::readsAColor_data()
     QTest::newRow("empty parts are dropped") << "10||20||30" << QColor(10, 20, 30, 255);
     QTest::newRow("a part that is no number is 0") << "10|x|30" << QColor(10, 0, 30, 255);
     QTest::newRow("the tail is case sensitive") << "1|2|3;rgba}" << QColor(1, 2, 0, 255);
-    QTest::newRow("no separator") << "red" << QColor(Qt::gray);
+    QTest::newRow("no separator, gray is meant") << "red" << QColor(Qt::gray);
     QTest::newRow("empty") << "" << QColor(Qt::gray);
     QTest::newRow("a brace alone") << "{" << QColor(Qt::gray);
     QTest::newRow("two numbers") << "{1|2;RGBA}" << QColor(Qt::gray);

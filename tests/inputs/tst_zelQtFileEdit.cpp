@@ -20,7 +20,7 @@ private slots:
     void forbiddenCharactersAreNotTyped_data();
     void forbiddenCharactersAreNotTyped();
     void otherCharactersAreTyped();
-    void undoKeyWorksInThisField();
+    void undoKeyWorksInThisFieldOnPurpose();
     void undoKeyDoesNotReachTheApplication();
     void isAsWideAsTheMaximumWidth();
 
@@ -151,7 +151,7 @@ void tst_zelQtFileEdit::otherCharactersAreTyped()
     QCOMPARE(fixture.mField.text(), QStringLiteral("a|b:c/d.x"));
 }
 
-void tst_zelQtFileEdit::undoKeyWorksInThisField()
+void tst_zelQtFileEdit::undoKeyWorksInThisFieldOnPurpose()
 {
     Fixture fixture;
     QVERIFY(fixture.enter());

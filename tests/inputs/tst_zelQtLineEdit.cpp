@@ -28,7 +28,7 @@ private slots:
     void ensuringDeliversOnce();
 
     // state
-    void inactiveFieldIsEmptyAndStaysSo();
+    void inactiveFieldIsEmptyAndStaysSoOnPurpose();
     void editableIsTheOppositeOfReadOnly();
     void takesATextAtConstruction();
 
@@ -202,7 +202,7 @@ void tst_zelQtLineEdit::ensuringDeliversOnce()
     QCOMPARE(fixture.take(), confirmedEvents);
 }
 
-void tst_zelQtLineEdit::inactiveFieldIsEmptyAndStaysSo()
+void tst_zelQtLineEdit::inactiveFieldIsEmptyAndStaysSoOnPurpose()
 {
     Fixture fixture;
     fixture.mField.setText(QStringLiteral("abc"));

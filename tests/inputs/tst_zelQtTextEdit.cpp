@@ -16,6 +16,7 @@ private slots:
     void setupTakesAFunctionTextToo();
     void updateBlockingVariableSpeaksAtConfirmationOnly_data();
     void updateBlockingVariableSpeaksAtConfirmationOnly();
+    void setupOfAnotherVariableIsNoWayBackOnPurpose();
     void stateOfTheElement_data();
     void stateOfTheElement();
     void setDataShowsTheTextOfTheModelSilently();
@@ -85,6 +86,20 @@ void tst_zelQtTextEdit::updateBlockingVariableSpeaksAtConfirmationOnly()
     QCOMPARE(fixture.take(), blocking ? QStringList() : changedEvents);
     QVERIFY(fixture.leave());
     QCOMPARE(fixture.take(), confirmedEvents);
+}
+
+void tst_zelQtTextEdit::setupOfAnotherVariableIsNoWayBackOnPurpose()
+{
+    ZelUIVarString blocking(L"s");
+    blocking.mUpdateBlocking = true;
+    ZelUIVarString open(L"t");
+    AttrMap attributes;
+    Fixture fixture;
+    fixture.mField.setup(&blocking, attributes, 0);
+    fixture.mField.setup(&open, attributes, 0);
+    QVERIFY(fixture.enter());
+    QTest::keyClick(&fixture.mField, Qt::Key_A);
+    QCOMPARE(fixture.take(), QStringList());
 }
 
 void tst_zelQtTextEdit::stateOfTheElement_data()

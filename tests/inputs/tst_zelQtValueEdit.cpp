@@ -20,7 +20,7 @@ private slots:
     void typedNumberCountsInTheCurrentUnit();
     void typedNumberKeepsAllDigits();
     void unreadableTextCountsAsZero();
-    void typedNumberIsNeitherClampedNorRewritten();
+    void typedNumberIsNeitherClampedNorRewrittenOnPurpose();
     void listenerOfValueChangedReadsTheFormerNumberOnPurpose();
     void numberIsFinalAtConfirmation();
     void silentFieldStoresTheNumberToo();
@@ -113,7 +113,7 @@ void tst_zelQtValueEdit::unreadableTextCountsAsZero()
     QCOMPARE(number(fixture.mField), 0.0);
 }
 
-void tst_zelQtValueEdit::typedNumberIsNeitherClampedNorRewritten()
+void tst_zelQtValueEdit::typedNumberIsNeitherClampedNorRewrittenOnPurpose()
 {
     Fixture fixture;
     fixture.mField.setRange(10, 100, false);

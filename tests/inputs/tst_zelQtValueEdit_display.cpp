@@ -19,8 +19,8 @@ private slots:
     void numberIsCutInTheTextOnly();
     void decimals_data();
     void decimals();
-    void integerModeRoundsTheTextAndTruncatesTheNumber_data();
-    void integerModeRoundsTheTextAndTruncatesTheNumber();
+    void integerModeRoundsTheTextAndTruncatesTheNumberOnPurpose_data();
+    void integerModeRoundsTheTextAndTruncatesTheNumberOnPurpose();
     void scientificNotationShowsAnExponent();
     void scientificNotationTakesTheDecimalsOfTheProcessOnPurpose();
     void newDecimalsEndScientificNotation();
@@ -91,7 +91,7 @@ void tst_zelQtValueEdit_display::decimals()
     QCOMPARE(field.text(), text);
 }
 
-void tst_zelQtValueEdit_display::integerModeRoundsTheTextAndTruncatesTheNumber_data()
+void tst_zelQtValueEdit_display::integerModeRoundsTheTextAndTruncatesTheNumberOnPurpose_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("text");
@@ -103,7 +103,7 @@ void tst_zelQtValueEdit_display::integerModeRoundsTheTextAndTruncatesTheNumber_d
     QTest::newRow("beyond int") << 3e9 << "3000000000" << 2147483647;
 }
 
-void tst_zelQtValueEdit_display::integerModeRoundsTheTextAndTruncatesTheNumber()
+void tst_zelQtValueEdit_display::integerModeRoundsTheTextAndTruncatesTheNumberOnPurpose()
 {
     QFETCH(double, value);
     QFETCH(QString, text);
