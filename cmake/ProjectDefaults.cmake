@@ -16,7 +16,7 @@ if(CCACHE_PROGRAM)
     # The sloppiness is what ccache needs to work with precompiled headers.
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
         CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
-        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=true ${CCACHE_PROGRAM})
+        CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=true ${CCACHE_PROGRAM})
 endif()
 
 # One interface target carries the flags of all our own targets.

@@ -23,8 +23,8 @@ function(project_embed library file function header)
     set(source ${CMAKE_CURRENT_BINARY_DIR}/${function}.cpp)
     add_custom_command(OUTPUT ${source}
         COMMAND ${CMAKE_COMMAND} -DINPUT=${CMAKE_CURRENT_SOURCE_DIR}/${file} -DOUTPUT=${source}
-            -DFUNCTION=${function} -DHEADER=${header} -P ${CMAKE_SOURCE_DIR}/cmake/EmbedText.cmake
-        DEPENDS ${file} ${CMAKE_SOURCE_DIR}/cmake/EmbedText.cmake
+            -DFUNCTION=${function} -DHEADER=${header} -P ${PROJECT_SOURCE_DIR}/cmake/EmbedText.cmake
+        DEPENDS ${file} ${PROJECT_SOURCE_DIR}/cmake/EmbedText.cmake
         VERBATIM)
     target_sources(${library} PRIVATE ${source})
 endfunction()
