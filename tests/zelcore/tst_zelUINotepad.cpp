@@ -8,6 +8,7 @@ class tst_zelUINotepad : public QObject
     Q_OBJECT
 private slots:
     void linesGoThereAndBack();
+    void untouchedNotesAreNotWritten();
     void readOnlyNotesAreNotWritten();
     void resultIsReadOnly();
 };
@@ -25,6 +26,21 @@ void tst_zelUINotepad::linesGoThereAndBack()
     notepad.mText = L"drei";
     notepad.getData(&meta, 0);
     QCOMPARE(toText(meta.text(*notes, 0)), QString("drei"));
+}
+
+void tst_zelUINotepad::untouchedNotesAreNotWritten()
+{
+    Meta meta;
+    auto *notes = meta.add<ZelUIVarMultilineString>(L"notes");
+    AttrMap attributes;
+    ZelUINotepad notepad;
+    notepad.setup(notes, attributes);
+    notepad.setData(&meta, 0);
+    meta.setText(*notes, 0, L"elsewhere", ZelOrigin::User);
+    notepad.getData(&meta, 0);
+    QCOMPARE(toText(meta.text(*notes, 0)), QString("elsewhere"));
+    notepad.setData(nullptr, 0);
+    QCOMPARE(toText(notepad.mText), QString());
 }
 
 void tst_zelUINotepad::readOnlyNotesAreNotWritten()
