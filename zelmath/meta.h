@@ -84,7 +84,8 @@ public:
     zelWString text(const ZelUIVar &variable, int64_t id) const;
     /// The same without a copy, valid until the next write.
     std::wstring_view textView(const ZelUIVar &variable, int64_t id) const;
-    /// False for a result that was not computed. Inputs are set from the start.
+    /// False for a result that was not computed, and for an optional variable whose check box is
+    /// unchecked as long as nothing was computed for it. Other inputs are set from the start.
     bool isSet(const ZelUIVar &variable, int64_t id, int component = 0) const;
 
     // Writing. A value that is the same bit for bit changes nothing and tells nobody, but sets an
@@ -97,7 +98,7 @@ public:
     void setText(const ZelUIVar &variable, int64_t id, const zelWString &value, ZelOrigin origin);
     /// All components; they read as the initial value then.
     void unset(const ZelUIVar &variable, int64_t id, ZelOrigin origin = ZelOrigin::Module);
-    /// Unsets every variable with role result.
+    /// Unsets everything that is computed: variables with role result and unchecked optional ones.
     void unsetResults(int64_t id);
     /// Back to initial values, results unset, options unchecked, messages gone; units stay. The
     /// observer hears each change with ZelOrigin::Load, the choice observer nothing: there is
@@ -118,6 +119,8 @@ public:
     bool isEntered(const ZelUIVar &variable, int64_t id) const;
     /// The check box of an optional variable.
     bool isOptionChecked(const ZelUIVar &variable, int64_t id) const;
+    /// Checking sets the variable: to what was computed last, else to its initial value. Unchecking
+    /// unsets it until it is computed; checked again before that, it has its former value back.
     void setOptionChecked(const ZelUIVar &variable, int64_t id, bool checked, ZelOrigin origin);
 
     // Choices

@@ -44,6 +44,7 @@ void Meta::setOptionChecked(const ZelUIVar &variable, int64_t id, bool checked, 
     change.mOrigin = origin;
     change.mOption = true;
     d->tell(change);
+    d->markSet(*this, variable, id, checked, origin);
 }
 
 const ZelUIVarChoice *Meta::choiceOf(const ZelUIVar &variable) const

@@ -93,7 +93,7 @@ Meta::Object &Meta::Private::makeValues(const Meta &meta, int64_t id)
             continue;
         for (int component = 0; component < variable->componentCount(); ++component) {
             const size_t slot = variable->mFirstSlot + static_cast<size_t>(component);
-            object.mSet[slot] = !variable->mResult;
+            object.mSet[slot] = startsSet(*variable);
             object.mSlots[slot] = storage == ZelVarStorage::Text
                 ? object.mTexts.size()
                 : initialBits(*variable, storage, component);
@@ -125,6 +125,21 @@ bool Meta::Private::write(const Meta &meta, const ZelUIVar &variable, int64_t id
         object.mSet[slot] = 1;
     });
     return true;
+}
+
+void Meta::Private::markSet(const Meta &meta, const ZelUIVar &variable, int64_t id, bool set,
+                            ZelOrigin origin)
+{
+    if (variable.storage() == ZelVarStorage::None)
+        return;
+    for (int component = 0; component < variable.componentCount(); ++component) {
+        if (meta.isSet(variable, id, component) == set)
+            continue;
+        Object &object = makeValues(meta, id);
+        const size_t slot = variable.mFirstSlot + static_cast<size_t>(component);
+        change(meta, variable, id, component, origin,
+               [&object, slot, set]() { object.mSet[slot] = set; });
+    }
 }
 
 bool Meta::Private::writeText(const Meta &meta, const ZelUIVar &variable, int64_t id,
@@ -200,7 +215,7 @@ bool Meta::isSet(const ZelUIVar &variable, int64_t id, int component) const
     const size_t slot = variable.mFirstSlot + static_cast<size_t>(component);
     const bool stored =
         object && variable.storage() != ZelVarStorage::None && slot < object->mSlots.size();
-    return stored ? object->mSet[slot] != 0 : !variable.mResult;
+    return stored ? object->mSet[slot] != 0 : Private::startsSet(variable);
 }
 
 // Writing
@@ -248,17 +263,20 @@ void Meta::unset(const ZelUIVar &variable, int64_t id, ZelOrigin origin)
     if (storage == ZelVarStorage::None)
         return;
     for (int component = 0; component < variable.componentCount(); ++component) {
-        if (!isSet(variable, id, component))
-            continue;
-        Object &object = d->makeValues(*this, id);
         const size_t slot = variable.mFirstSlot + static_cast<size_t>(component);
-        d->change(*this, variable, id, component, origin, [&]() {
+        const auto clear = [&](Object &object) {
             object.mSet[slot] = 0;
             if (storage == ZelVarStorage::Text)
                 object.mTexts[static_cast<size_t>(object.mSlots[slot])] = variable.initialText();
             else
                 object.mSlots[slot] = Private::initialBits(variable, storage, component);
-        });
+        };
+        Object *object = d->find(id);
+        if (isSet(variable, id, component))
+            d->change(*this, variable, id, component, origin,
+                      [&]() { clear(d->makeValues(*this, id)); });
+        else if (object && slot < object->mSlots.size())
+            clear(*object); // of what an unchecked variable had before
     }
 }
 
@@ -266,8 +284,11 @@ void Meta::unsetResults(int64_t id)
 {
     // By index: an observer may add variables.
     for (size_t i = 0; i < mVariables.size(); ++i) {
-        if (mVariables[i]->mResult)
-            unset(*mVariables[i], id);
+        const ZelUIVar &variable = *mVariables[i];
+        if (variable.mResult)
+            unset(variable, id);
+        else if (variable.mOptional && !isOptionChecked(variable, id))
+            d->markSet(*this, variable, id, false, ZelOrigin::Module);
     }
 }
 
@@ -281,7 +302,7 @@ void Meta::reset(int64_t id)
         const ZelUIVar &variable = *mVariables[i];
         setOptionChecked(variable, id, false, ZelOrigin::Load);
         const ZelVarStorage storage = variable.storage();
-        if (variable.mResult)
+        if (!Private::startsSet(variable))
             unset(variable, id, ZelOrigin::Load);
         else if (storage == ZelVarStorage::Text)
             d->writeText(*this, variable, id, variable.initialText(), ZelOrigin::Load);

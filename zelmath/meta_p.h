@@ -36,6 +36,11 @@ struct Meta::Private
     static bool owns(const Meta &meta, const ZelUIVar &variable);
     /// None also for a variable of another Meta and for a component that isn't there.
     static ZelVarStorage storage(const Meta &meta, const ZelUIVar &variable, int component);
+    /// Results and optional variables have no value until one is computed or entered.
+    static bool startsSet(const ZelUIVar &variable)
+    {
+        return !variable.mResult && !variable.mOptional;
+    }
     static uint64_t initialBits(const ZelUIVar &variable, ZelVarStorage storage, int component);
 
     Object *find(int64_t id) const;
@@ -49,6 +54,9 @@ struct Meta::Private
                ZelOrigin origin);
     bool writeText(const Meta &meta, const ZelUIVar &variable, int64_t id, const zelWString &value,
                    ZelOrigin origin);
+    /// Marks all components as set or unset; what stands in their slots stays.
+    void markSet(const Meta &meta, const ZelUIVar &variable, int64_t id, bool set,
+                 ZelOrigin origin);
     /// Runs `store` and tells the observer the value before and behind it.
     template <class Store>
     void change(const Meta &meta, const ZelUIVar &variable, int64_t id, int component,

@@ -84,9 +84,13 @@ std::string zelWriteValues(const Meta &meta, bool withResults)
         for (const auto &variable : meta.variables()) {
             if (variable->storage() == ZelVarStorage::None || (variable->mResult && !withResults))
                 continue;
-            if (variable->mOptional && !variable->mResult)
+            if (variable->mOptional && !variable->mResult) {
+                const bool checked = meta.isOptionChecked(*variable, id);
                 text += "entered(" + variable->name().toUtf8() + ')' + atObject(id) + " = "
-                    + (meta.isOptionChecked(*variable, id) ? "true\n" : "false\n");
+                    + (checked ? "true\n" : "false\n");
+                if (!checked && !withResults)
+                    continue;
+            }
             for (int component = 0; component < variable->componentCount(); ++component) {
                 const std::string value = zelValueText(meta, *variable, id, component);
                 if (!value.empty())

@@ -19,7 +19,8 @@
 // ("N/mm2"), that for people ("N/mm²") reads as well.
 
 /// All inputs of all objects (or also the results that are set), in the order of the description,
-/// in default units. A store that nobody wrote to counts as one object, 0, with initial values.
+/// in default units. What was computed for an unchecked optional variable is a result. A store that
+/// nobody wrote to counts as one object, 0, with initial values.
 ZELMATH_EXPORT std::string zelWriteValues(const Meta &meta, bool withResults);
 
 /// Reads values; units are converted to default units. A faulty line (unknown name, unit of another

@@ -288,10 +288,11 @@ void tst_builtMask::tabKeyFollowsTheDescription_data()
     QTest::addColumn<QByteArray>("xml");
     QTest::addColumn<QStringList>("order");
     // Line by line down the first column, with the icon buttons of each line, then down the second.
-    // The check box of a line is passed over.
-    QTest::newRow("columns") << QByteArray(
-        twoColumns) << QStringList{"d",    "d_info", "d_database", "length", "length_info", "F",
-                                   "size", "size_2", "size_3",     "note",   "x",           "d"};
+    // The check box of a line is passed over, and so is the value that it keeps empty.
+    QTest::newRow("columns") << QByteArray(twoColumns)
+                             << QStringList{"d",           "d_info", "d_database", "length",
+                                            "length_info", "size",   "size_2",     "size_3",
+                                            "note",        "x",      "d"};
     QTest::newRow("group before a board")
         << QByteArray(group) << QStringList{"above", "left", "right", "below", "on", "above"};
     QTest::newRow("boards and a hidden group")

@@ -251,19 +251,22 @@ void tst_builtMask_input::checkBoxOfAnOptionalValueOpensIt()
     QVERIFY(mask.show());
     auto *field = mask.find<ZelQtValueEdit>("Cu");
     auto *box = mask.find<ZelQtEditButton>("Cu_edit")->checkBoxWidget();
-    QVERIFY(field->isReadOnly());
+    QVERIFY(!field->isEnabled());
+    QCOMPARE(field->text(), QString());
     QVERIFY(!box->isChecked());
 
     tick(box);
     QVERIFY(box->isChecked());
-    QVERIFY(!field->isReadOnly());
+    QVERIFY(field->isEnabled() && !field->isReadOnly());
     QVERIFY(mask.isEntered(L"Cu"));
+    QCOMPARE(field->text(), QString("30.0000"));
     QVERIFY(enter(field, "31"));
     QCOMPARE(mask.real(L"Cu"), 31.0);
 
     tick(box);
     QVERIFY(!box->isChecked());
-    QVERIFY(field->isReadOnly());
+    QVERIFY(!field->isEnabled());
+    QCOMPARE(field->text(), QString()); // nothing computed it yet
     QVERIFY(!mask.isEntered(L"Cu"));
 }
 

@@ -70,6 +70,20 @@ struct GearPair
 
 } // namespace
 
+// A pair with a check box.
+struct Optional
+{
+    Meta mMeta;
+    ZelUIMultiVar *mVariable = mMeta.add<ZelUIMultiVar>(L"Cu", ZelDimensions::Newton, 2);
+
+    Optional()
+    {
+        mVariable->mOptional = true;
+        mVariable->mInitial = {30, 40, 0};
+    }
+    void check(bool checked) { mMeta.setOptionChecked(*mVariable, 0, checked, ZelOrigin::User); }
+};
+
 class tst_meta : public QObject
 {
     Q_OBJECT
@@ -126,6 +140,12 @@ private slots:
     void choosingAUnitMakesNoObject();
 
     void optionalVariableIsEnteredWhileChecked();
+    void uncheckedOptionIsUnsetUntilComputed();
+    void checkingAnOptionSetsTheInitialValue();
+    void checkingAnOptionTakesOverWhatWasComputed();
+    void uncheckingAnOptionUnsetsAndKeepsItForTheNextCheck();
+    void refusedCalculationUnsetsUncheckedOptionsOnly();
+    void resetOfAnUncheckedOptionForgetsItsFormerValue();
     void optionIsOnlyForOptionalVariables();
     void resultIsNeverEntered();
 
@@ -470,11 +490,11 @@ void tst_meta::observerHearsOldAndNewInTheTextForm()
     meta.setInteger(*list, 0, 0, 2, ZelOrigin::User);
     meta.setInteger(*list, 0, 0, 9, ZelOrigin::Module);
     meta.setOptionChecked(*optional, 0, true, ZelOrigin::User);
-    QCOMPARE(
-        recorder.take(),
-        (QStringList{"F[1]@2 0 N -> 0.1 N (User)", "f[0]@0 false -> true (Load)",
-                     "t[0]@0 \"\" -> \"a \\\"b\\\"\\n\\\\\" (User)", "l[0]@0 grease -> oil (User)",
-                     "l[0]@0 oil -> 9 (Module)", "option o[0]@0 false -> true (User)"}));
+    QCOMPARE(recorder.take(),
+             (QStringList{"F[1]@2 0 N -> 0.1 N (User)", "f[0]@0 false -> true (Load)",
+                          "t[0]@0 \"\" -> \"a \\\"b\\\"\\n\\\\\" (User)",
+                          "l[0]@0 grease -> oil (User)", "l[0]@0 oil -> 9 (Module)",
+                          "option o[0]@0 false -> true (User)", "o[0]@0  -> 0 (User)"}));
 }
 
 void tst_meta::observerSeesTheNewValueInTheStore()
@@ -630,7 +650,7 @@ void tst_meta::resetRestoresInitialValues()
     QCOMPARE(recorder.take(),
              (QStringList{"a[0]@0 1 mm -> 100 mm (Load)", "shift[0]@0 first -> both (Load)",
                           "r[0]@0 5 ->  (Load)", "t[0]@0 \"voll\" -> \"leer\" (Load)",
-                          "option o[0]@0 true -> false (Load)"}));
+                          "option o[0]@0 true -> false (Load)", "o[0]@0 0 ->  (Load)"}));
     QCOMPARE(meta.messageState(*pair.mA, 0), 0);
     QVERIFY(meta.currentUnit(*pair.mA, 0) == ZelDimensions::Inch);
     meta.reset(0);
@@ -729,6 +749,80 @@ void tst_meta::optionalVariableIsEnteredWhileChecked()
     QVERIFY(!meta.isEntered(*optional, 1));
     meta.setOptionChecked(*optional, 0, false, ZelOrigin::User);
     QVERIFY(!meta.isEntered(*optional, 0));
+}
+
+void tst_meta::uncheckedOptionIsUnsetUntilComputed()
+{
+    Optional option;
+    Meta &meta = option.mMeta;
+    QVERIFY(!meta.isSet(*option.mVariable, 0));
+    meta.setReal(*meta.add<ZelUIMultiVar>(L"n"), 0, 0, 1, ZelOrigin::User);
+    QVERIFY(!meta.isSet(*option.mVariable, 0) && !meta.isSet(*option.mVariable, 0, 1));
+    meta.setReal(*option.mVariable, 0, 0, 31, ZelOrigin::Module);
+    QVERIFY(meta.isSet(*option.mVariable, 0));
+    QVERIFY(!meta.isSet(*option.mVariable, 1));
+}
+
+void tst_meta::checkingAnOptionSetsTheInitialValue()
+{
+    Optional option;
+    Meta &meta = option.mMeta;
+    Recorder recorder(meta);
+    meta.setOptionChecked(*option.mVariable, 0, true, ZelOrigin::User);
+    QCOMPARE(recorder.take(),
+             (QStringList{"option Cu[0]@0 false -> true (User)", "Cu[0]@0  -> 30 N (User)",
+                          "Cu[1]@0  -> 40 N (User)"}));
+    QVERIFY(meta.isSet(*option.mVariable, 0) && meta.isSet(*option.mVariable, 0, 1));
+}
+
+void tst_meta::checkingAnOptionTakesOverWhatWasComputed()
+{
+    Optional option;
+    option.mMeta.setReal(*option.mVariable, 0, 0, 31, ZelOrigin::Module);
+    option.check(true);
+    QCOMPARE(option.mMeta.real(*option.mVariable, 0), 31.0);
+    QCOMPARE(option.mMeta.real(*option.mVariable, 0, 1), 40.0);
+}
+
+void tst_meta::uncheckingAnOptionUnsetsAndKeepsItForTheNextCheck()
+{
+    Optional option;
+    Meta &meta = option.mMeta;
+    option.check(true);
+    meta.setReal(*option.mVariable, 0, 0, 32, ZelOrigin::User);
+    Recorder recorder(meta);
+    option.check(false);
+    QCOMPARE(recorder.take(),
+             (QStringList{"option Cu[0]@0 true -> false (User)", "Cu[0]@0 32 N ->  (User)",
+                          "Cu[1]@0 40 N ->  (User)"}));
+    QVERIFY(!meta.isSet(*option.mVariable, 0));
+    option.check(true);
+    QCOMPARE(meta.real(*option.mVariable, 0), 32.0);
+    QVERIFY(meta.isSet(*option.mVariable, 0));
+}
+
+void tst_meta::refusedCalculationUnsetsUncheckedOptionsOnly()
+{
+    Optional option;
+    Meta &meta = option.mMeta;
+    meta.setReal(*option.mVariable, 0, 0, 31, ZelOrigin::Module);
+    meta.unsetResults(0);
+    QVERIFY(!meta.isSet(*option.mVariable, 0));
+    option.check(true);
+    meta.unsetResults(0);
+    QVERIFY(meta.isSet(*option.mVariable, 0));
+}
+
+void tst_meta::resetOfAnUncheckedOptionForgetsItsFormerValue()
+{
+    Optional option;
+    option.check(true);
+    option.mMeta.setReal(*option.mVariable, 0, 0, 32, ZelOrigin::User);
+    option.check(false);
+    option.mMeta.reset(0);
+    QVERIFY(!option.mMeta.isSet(*option.mVariable, 0));
+    option.check(true);
+    QCOMPARE(option.mMeta.real(*option.mVariable, 0), 30.0);
 }
 
 void tst_meta::optionIsOnlyForOptionalVariables()

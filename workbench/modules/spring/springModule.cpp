@@ -124,9 +124,10 @@ void SpringModule::writeComputedInputs(const SpringInput &input, const SpringVal
     if (!input.mTotalCoils)
         setOrUnset(mTotalCoils, computed(&SpringValues::mTotalCoils), id);
     if (!input.mPermissibleStress) {
-        setOrUnset(mPermissibleStress, computed(&SpringValues::mPermissibleStress), id);
         // The stress of a cold coiled spring must not pass for an input when it becomes a hot one.
+        // Unchecking takes the value away, so it comes first.
         meta().setOptionChecked(*mPermissibleStress.variable(), id, false, ZelOrigin::Module);
+        setOrUnset(mPermissibleStress, computed(&SpringValues::mPermissibleStress), id);
     }
     if (!values)
         return;
