@@ -59,8 +59,11 @@ std::string unitList(ZelDimensions::Unit unit)
 // What the entries of other kinds are, only the database or the module knows.
 bool isEntry(const ZelUIVar &variable, int64_t id)
 {
-    if (const auto *choice = dynamic_cast<const ZelUIVarChoice *>(&variable))
-        return id >= 1 && static_cast<uint64_t>(id) <= choice->mAlternatives.size();
+    if (const auto *choice = dynamic_cast<const ZelUIVarChoice *>(&variable)) {
+        // A choice whose alternatives were all faulty holds 0.
+        const int64_t first = choice->mAlternatives.empty() ? 0 : 1;
+        return id >= first && id <= static_cast<int64_t>(choice->mAlternatives.size());
+    }
     const auto *list = dynamic_cast<const ZelUIVarList *>(&variable);
     // 0 is a list in which nothing was chosen.
     return !list || id == 0

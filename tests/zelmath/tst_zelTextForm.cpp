@@ -84,6 +84,7 @@ private slots:
     void unitsAreConverted();
     void readingTellsTheObserverWithTheOrigin();
     void readingAChoicePicks();
+    void choiceWithoutAlternativesReadsBack();
     void commentsAndEmptyLinesCountForNothing();
     void listsOfTheDatabaseStandByNumber();
     void lastLineOfAValueHolds();
@@ -321,6 +322,19 @@ void tst_zelTextForm::readingAChoicePicks()
         });
     spring.read("range = forces");
     QCOMPARE(picked, (QList<short>{1, 2, short(ZelOrigin::Load)}));
+}
+
+// What is left of a choice in a damaged description.
+void tst_zelTextForm::choiceWithoutAlternativesReadsBack()
+{
+    Spring spring;
+    spring.mMeta.add<ZelUIVarChoice>(L"empty");
+    QVERIFY(spring.written().endsWith("\nempty = 0\n"));
+    ZelFaultList faults;
+    spring.read(spring.written().toUtf8(), &faults);
+    QCOMPARE(faultPlaces(faults), QStringList());
+    QCOMPARE(spring.read("empty = 1", &faults), 0);
+    QCOMPARE(faultPlaces(faults).size(), 1);
 }
 
 void tst_zelTextForm::commentsAndEmptyLinesCountForNothing()
