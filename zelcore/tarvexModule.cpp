@@ -20,7 +20,13 @@ bool usesUSCustomaryUnits()
 struct UnitSystemLink
 {
     UnitSystemLink() { ZelDimensions::setUnitSystemQuery(&usesUSCustomaryUnits); }
-    ~UnitSystemLink() { ZelDimensions::setUnitSystemQuery(nullptr); }
+    ~UnitSystemLink()
+    {
+        // One that somebody installed later stays.
+        const auto installed = ZelDimensions::setUnitSystemQuery(nullptr);
+        if (installed != &usesUSCustomaryUnits)
+            ZelDimensions::setUnitSystemQuery(installed);
+    }
 };
 
 const UnitSystemLink unitSystemLink;
@@ -51,8 +57,10 @@ void TarvexModule::deactivate()
 
 Meldung *TarvexModule::GetMeldung(MeldungsVar variant, MeldungsTyp type, bool) const
 {
-    mMeldung = std::make_unique<Meldung>(variant, type);
-    return mMeldung.get();
+    Meldung &message = variant == Meldung::Notice ? mNotice : mQuestion;
+    message.mVariant = variant;
+    message.mType = type;
+    return &message;
 }
 
 Meldung::Meldung(MeldungsVar variant, MeldungsTyp type)
@@ -61,12 +69,24 @@ Meldung::Meldung(MeldungsVar variant, MeldungsTyp type)
 {
 }
 
-int Meldung::show(const zelWString &text) const
+void Meldung::setText(const zelWString &text)
+{
+    mText = text;
+    if (mVariant == Notice && mType != Hold)
+        show();
+}
+
+int Meldung::answer()
+{
+    return mVariant == Notice ? 0 : show();
+}
+
+int Meldung::show() const
 {
     if (messageHandler)
-        return messageHandler(mVariant, mType, text);
-    internMessage(__FILE__, __LINE__, text.toUtf8().c_str());
-    return 0;
+        return messageHandler(mVariant, mType, mText);
+    internMessage(__FILE__, __LINE__, mText.toUtf8().c_str());
+    return mVariant == Notice ? 0 : 1;
 }
 
 void Meldung::setHandler(Handler handler)

@@ -4,7 +4,6 @@
 #include "zelcore_export.h"
 
 #include <functional>
-#include <memory>
 
 /// Settings of the user that reach down to the model. The first member is one byte and is read as
 /// such.
@@ -14,24 +13,45 @@ struct TarvexSetup
     unsigned char mUSCustomaryUnits = 0;
 };
 
-enum class MeldungsTyp : int { Information = 0, Warning = 1, Error = 2, Question = 3 };
-enum class MeldungsVar : int { Ok = 0, YesNo = 1, YesNoCancel = 2 };
+/// Kind of a message, see Meldung.
+using MeldungsVar = int;
+/// What is to be done with a message, see Meldung.
+using MeldungsTyp = int;
 
-/// A message of the active module to the user: text in, number of the pressed button out.
+/// A message of the active module to the user: text in, number out. A notice shows as soon as it
+/// gets its text; a question holds its text until it is asked:
+///
+///     module->GetMeldung(Meldung::Notice, Meldung::Show, true)->setText(text);
+///     module->GetMeldung(Meldung::Question, Meldung::Hold, true)->setText(text);
+///     if (module->GetMeldung(Meldung::Question, Meldung::Ask, true)->answer() == 0)
 class ZELCORE_EXPORT Meldung
 {
 public:
-    /// Shows a text and yields 0 for Ok and Yes, 1 for No, 2 for Cancel.
+    // Other numbers of variants are questions too, other numbers of types act like Show.
+    static constexpr MeldungsVar Notice = 0;
+    static constexpr MeldungsVar Question = 2;
+    static constexpr MeldungsTyp Hold = 1;
+    static constexpr MeldungsTyp Show = 3;
+    static constexpr MeldungsTyp Ask = 9;
+
+    /// Shows a text and yields 0 for Ok and Yes, another number for any other answer.
     using Handler = std::function<int(MeldungsVar, MeldungsTyp, const zelWString &)>;
 
     Meldung(MeldungsVar variant, MeldungsTyp type);
-    /// 0 without a handler.
-    int show(const zelWString &text) const;
-    /// How messages show in this process; an empty handler writes to internMessage and answers 0.
+    void setText(const zelWString &text);
+    /// 0 is yes. Asks a question each time; a notice has nothing to ask and is 0.
+    int answer();
+    /// How messages show in this process. Without one they go to internMessage, and what nobody was
+    /// asked counts as declined.
     static void setHandler(Handler handler);
+
+private:
+    friend class TarvexModule;
+    int show() const;
 
     MeldungsVar mVariant;
     MeldungsTyp mType;
+    zelWString mText;
 };
 
 /// A calculation module as the frame sees it.
@@ -48,12 +68,14 @@ public:
     static TarvexModule *GetActiveModule(TarvexModule *module = nullptr);
     /// Forgets the active module if it is this one.
     void deactivate();
-    /// Owned by the module and valid until the next call.
+    /// Owned by the module, which has one notice and one question: the last call tells what is to
+    /// be done with it, its text stays.
     Meldung *GetMeldung(MeldungsVar variant, MeldungsTyp type, bool modal) const;
 
     /// Null at start, which means metric units. Set and owned by the application.
     static TarvexSetup *Setup;
 
 private:
-    mutable std::unique_ptr<Meldung> mMeldung;
+    mutable Meldung mNotice{Meldung::Notice, Meldung::Show};
+    mutable Meldung mQuestion{Meldung::Question, Meldung::Ask};
 };

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace {
 
@@ -137,7 +138,8 @@ Unit unitOf(const UnitsByText &map, const std::wstring &text)
     return entry == map.end() ? ZelDimensions::NoUnit : entry->second;
 }
 
-bool (*unitSystemQuery)() = nullptr;
+// Set before any constructor runs: a library above installs its query while it is loaded.
+constinit ZelDimensions::UnitSystemQuery unitSystemQuery = nullptr;
 
 } // namespace
 
@@ -205,9 +207,9 @@ ZelDimensions::Unit ZelDimensions::defaultUnit(Unit unit, bool currentSystem)
     return currentSystem && unitSystemQuery && unitSystemQuery() ? row.mUsCustomary : row.mMetric;
 }
 
-void ZelDimensions::setUnitSystemQuery(bool (*usCustomary)())
+ZelDimensions::UnitSystemQuery ZelDimensions::setUnitSystemQuery(UnitSystemQuery usCustomary)
 {
-    unitSystemQuery = usCustomary;
+    return std::exchange(unitSystemQuery, usCustomary);
 }
 
 double ZelDimensions::changeUnit(double value, Unit from, Unit to)

@@ -316,9 +316,10 @@ public:
     /// Default unit of the dimension of `unit`: the one of the current unit system, or the metric
     /// one when `currentSystem` is false. A unit without dimension is its own default.
     static Unit defaultUnit(Unit unit, bool currentSystem);
-    /// Installs the query for the current unit system, true for US customary units. Without one,
-    /// and with a null pointer, all is metric.
-    static void setUnitSystemQuery(bool (*usCustomary)());
+    using UnitSystemQuery = bool (*)();
+    /// Installs the query for the current unit system, true for US customary units, and returns the
+    /// former one. Without one, and with a null pointer, all is metric.
+    static UnitSystemQuery setUnitSystemQuery(UnitSystemQuery usCustomary);
 
     /// `value` of unit `from` in unit `to`, unrounded. Between different dimensions, and where one
     /// is NoUnit or DynamicUnit, it stays as it is. There and back again changes it by 2 ulp at

@@ -5,6 +5,23 @@
 #include <QtTest>
 #include <cstring>
 
+// What the handler was given: variant, type, text.
+struct MessageLog
+{
+    QStringList mShown;
+    int mAnswer = 0;
+
+    MessageLog()
+    {
+        Meldung::setHandler([this](MeldungsVar variant, MeldungsTyp type, const zelWString &text) {
+            mShown << QString("%1 %2 %3").arg(variant).arg(type).arg(QString::fromStdWString(text));
+            return mAnswer;
+        });
+    }
+    ~MessageLog() { Meldung::setHandler({}); }
+    QStringList take() { return std::exchange(mShown, {}); }
+};
+
 class tst_tarvexModule : public QObject
 {
     Q_OBJECT
@@ -15,8 +32,10 @@ private slots:
     void flagIsTheFirstByteOfTheSettings();
     void activeModule();
     void deadModuleIsNotActive();
-    void messageGoesThroughTheHandler();
-    void messageWithoutHandlerIsReported();
+    void noticeShowsWhenItGetsItsText();
+    void questionHoldsItsTextUntilItIsAsked();
+    void noticeInBetweenLeavesTheTextOfAQuestion();
+    void messageWithoutHandlerIsReportedAndDeclined();
 };
 
 void tst_tarvexModule::cleanup()
@@ -73,30 +92,54 @@ void tst_tarvexModule::deadModuleIsNotActive()
     QVERIFY(!TarvexModule::GetActiveModule());
 }
 
-void tst_tarvexModule::messageGoesThroughTheHandler()
+void tst_tarvexModule::noticeShowsWhenItGetsItsText()
 {
-    QString shown;
-    Meldung::setHandler([&shown](MeldungsVar variant, MeldungsTyp type, const zelWString &text) {
-        shown =
-            QString("%1 %2 %3").arg(int(variant)).arg(int(type)).arg(QString::fromStdWString(text));
-        return 1;
-    });
+    MessageLog log;
     TarvexModule module;
-    Meldung *message = module.GetMeldung(MeldungsVar::YesNo, MeldungsTyp::Question, true);
-    QVERIFY(message);
-    QCOMPARE(message->show(L"Löschen?"), 1);
-    QCOMPARE(shown, QString("1 3 Löschen?"));
+    Meldung *notice = module.GetMeldung(0, 3, true);
+    QCOMPARE(log.take(), QStringList());
+    notice->setText(L"Keine Zeile");
+    QCOMPARE(log.take(), QStringList("0 3 Keine Zeile"));
+    QCOMPARE(notice->answer(), 0);
+    QCOMPARE(log.take(), QStringList());
 }
 
-void tst_tarvexModule::messageWithoutHandlerIsReported()
+void tst_tarvexModule::questionHoldsItsTextUntilItIsAsked()
 {
-    QString reported;
-    const auto former = setInternMessageSink(
-        [&reported](const char *, long, const char *text) { reported = text; });
+    MessageLog log;
+    log.mAnswer = 1;
     TarvexModule module;
-    QCOMPARE(module.GetMeldung(MeldungsVar::Ok, MeldungsTyp::Error, true)->show(L"Fehler"), 0);
+    module.GetMeldung(2, 1, true)->setText(L"Löschen?");
+    QCOMPARE(log.take(), QStringList());
+    QCOMPARE(module.GetMeldung(2, 9, true)->answer(), 1);
+    QCOMPARE(log.take(), QStringList("2 9 Löschen?"));
+    log.mAnswer = 0;
+    QCOMPARE(module.GetMeldung(2, 9, true)->answer(), 0);
+}
+
+void tst_tarvexModule::noticeInBetweenLeavesTheTextOfAQuestion()
+{
+    MessageLog log;
+    TarvexModule module;
+    module.GetMeldung(2, 1, true)->setText(L"Löschen?");
+    module.GetMeldung(0, 3, true)->setText(L"Nur so");
+    module.GetMeldung(2, 9, true)->answer();
+    QCOMPARE(log.take(), (QStringList{"0 3 Nur so", "2 9 Löschen?"}));
+}
+
+void tst_tarvexModule::messageWithoutHandlerIsReportedAndDeclined()
+{
+    QStringList reported;
+    const auto former = setInternMessageSink(
+        [&reported](const char *, long, const char *text) { reported << text; });
+    TarvexModule module;
+    module.GetMeldung(0, 3, true)->setText(L"Fehler");
+    Meldung *question = module.GetMeldung(2, 9, true);
+    question->setText(L"Löschen?");
+    const int answer = question->answer();
     setInternMessageSink(former);
-    QCOMPARE(reported, QString("Fehler"));
+    QVERIFY(answer != 0);
+    QCOMPARE(reported, (QStringList{"Fehler", "Löschen?"}));
 }
 
 QTEST_GUILESS_MAIN(tst_tarvexModule)

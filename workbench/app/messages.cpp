@@ -6,33 +6,13 @@
 
 namespace {
 
-int answer(int button)
-{
-    switch (button) {
-    case QMessageBox::No:
-        return 1;
-    case QMessageBox::Cancel:
-        return 2;
-    default:
-        return 0;
-    }
-}
-
-int show(MeldungsVar variant, MeldungsTyp type, const zelWString &message)
+int show(MeldungsVar variant, MeldungsTyp, const zelWString &message)
 {
     const QString text = toQString(message);
-    if (variant == MeldungsVar::YesNo)
-        return answer(ZelQtMessageBox::question(text));
-    if (variant == MeldungsVar::YesNoCancel)
-        return answer(ZelQtMessageBox::questionWithCancel(text));
-    switch (type) {
-    case MeldungsTyp::Warning:
-        return answer(ZelQtMessageBox::warning(text));
-    case MeldungsTyp::Error:
-        return answer(ZelQtMessageBox::error(text));
-    default:
-        return answer(ZelQtMessageBox::information(text));
-    }
+    if (variant != Meldung::Notice)
+        return ZelQtMessageBox::question(text) == QMessageBox::Yes ? 0 : 1;
+    ZelQtMessageBox::information(text);
+    return 0;
 }
 
 } // namespace
