@@ -42,12 +42,13 @@ std::string toLatin1(const zelWString &text)
 ZelUIComboBox::ZelUIComboBox() = default;
 ZelUIComboBox::~ZelUIComboBox() = default;
 
-void ZelUIComboBox::take(ZelUIVar *variable, AttrMap &attributes, int component, Source source)
+bool ZelUIComboBox::take(ZelUIVar *variable, AttrMap &attributes, int component, Source source)
 {
     ZelUIObject::setup(variable, attributes);
     setModelComponent(component);
-    mSource = source;
+    mSource = variable ? source : NoSource;
     modelTakePriorityName();
+    return variable != nullptr;
 }
 
 void ZelUIComboBox::takeDatabase(const zelWString &database, const zelWString &table,
@@ -61,8 +62,8 @@ void ZelUIComboBox::takeDatabase(const zelWString &database, const zelWString &t
 
 void ZelUIComboBox::setup(ZelUIVarLS *variable, AttrMap &attributes, int component)
 {
-    take(variable, attributes, component, Function);
-    mFunction = variable->mFunction;
+    if (take(variable, attributes, component, Function))
+        mFunction = variable->mFunction;
     // The widgets override the general form alone for this kind and the two below.
     setup(static_cast<ZelUIVar *>(variable), attributes);
 }
@@ -70,60 +71,63 @@ void ZelUIComboBox::setup(ZelUIVarLS *variable, AttrMap &attributes, int compone
 void ZelUIComboBox::setup(ZelUIVarLubList *variable, AttrMap &attributes, bool types,
                           bool lubricants)
 {
-    take(variable, attributes, 0, NoSource);
+    const bool taken = take(variable, attributes, 0, NoSource);
     mHoldsValue = lubricants || !types;
-    if (mHoldsValue)
+    if (taken && mHoldsValue)
         takeDatabase({}, L"lubricant", L"ID", variable->mOwn);
     setup(static_cast<ZelUIVar *>(variable), attributes);
 }
 
 void ZelUIComboBox::setup(ZelUIVarMatList *variable, AttrMap &attributes, bool types)
 {
-    take(variable, attributes, 0, NoSource);
+    const bool taken = take(variable, attributes, 0, NoSource);
     mHoldsValue = !types;
     mMaterials = !types;
-    if (mHoldsValue)
+    if (taken && mHoldsValue)
         takeDatabase({}, L"material", L"ID", variable->mOwn);
     setup(static_cast<ZelUIVar *>(variable), attributes);
 }
 
 void ZelUIComboBox::setup(ZelUIVarRealFuncList *variable, AttrMap &attributes, int component)
 {
-    take(variable, attributes, component, NumberFunction);
-    mFunction = variable->mFunction;
+    if (take(variable, attributes, component, NumberFunction))
+        mFunction = variable->mFunction;
 }
 
 void ZelUIComboBox::setup(ZelUIVarRealList *variable, AttrMap &attributes, int component)
 {
-    take(variable, attributes, component, Numbers);
     mNumbers.clear();
+    if (!take(variable, attributes, component, Numbers))
+        return;
     for (const ZelListEntry &entry : variable->mEntries)
         mNumbers.push_back(entry.mNumber);
 }
 
 void ZelUIComboBox::setup(ZelUIVarDBFuncList *variable, AttrMap &attributes, int component)
 {
-    take(variable, attributes, component, NoSource);
+    if (!take(variable, attributes, component, NoSource))
+        return;
     takeDatabase(variable->mDatabase, variable->mTable, variable->mIdColumn, variable->mOwn);
     mFunction = variable->mFunction;
 }
 
 void ZelUIComboBox::setup(ZelUIVarDBList *variable, AttrMap &attributes, int component)
 {
-    take(variable, attributes, component, NoSource);
+    if (!take(variable, attributes, component, NoSource))
+        return;
     takeDatabase(variable->mDatabase, variable->mTable, variable->mIdColumn, variable->mOwn);
 }
 
 void ZelUIComboBox::setup(ZelUIVarFuncListDynamic *variable, AttrMap &attributes, int component)
 {
-    take(variable, attributes, component, Dynamic);
-    mFunction = variable->mFunction;
+    if (take(variable, attributes, component, Dynamic))
+        mFunction = variable->mFunction;
 }
 
 void ZelUIComboBox::setup(ZelUIVarFuncList *variable, AttrMap &attributes, int component)
 {
-    take(variable, attributes, component, Function);
-    mFunction = variable->mFunction;
+    if (take(variable, attributes, component, Function))
+        mFunction = variable->mFunction;
 }
 
 void ZelUIComboBox::setup(ZelUIVarList *variable, AttrMap &attributes, int component)

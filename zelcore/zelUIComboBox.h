@@ -89,7 +89,8 @@ protected:
 private:
     enum Source { NoSource, Entries, Numbers, Function, NumberFunction, Dynamic };
 
-    void take(ZelUIVar *variable, AttrMap &attributes, int component, Source source);
+    /// False for a null variable: the box has no list then.
+    bool take(ZelUIVar *variable, AttrMap &attributes, int component, Source source);
     void takeDatabase(const zelWString &database, const zelWString &table,
                       const zelWString &idColumn, const ZelUITextHandler &own);
     void refreshFunctionList(Meta &meta, int64_t id);

@@ -69,6 +69,7 @@ private slots:
     void twoListsThatDependOnEachOther();
     void userInputByTextAndByName();
     void rendersTheCurrentEntry();
+    void nullVariableGivesAnEmptyList();
 };
 
 void tst_zelUIComboBox::startsWithIdColumnID()
@@ -287,6 +288,37 @@ void tst_zelUIComboBox::rendersTheCurrentEntry()
     QCOMPARE(toText(lube.mBox.getRenderedData()), QString("Fett"));
     lube.mBox.mEnabled = false;
     QVERIFY(lube.mBox.getRenderedData().empty());
+}
+
+// Of every kind that brings a list with it.
+void tst_zelUIComboBox::nullVariableGivesAnEmptyList()
+{
+    ZelUIComboBox box;
+    AttrMap attributes;
+    const auto checkEmpty = [&box]() {
+        Meta meta;
+        box.updateState(&meta, 0);
+        box.setData(&meta, 0);
+        box.getData(&meta, 0);
+        QVERIFY(box.list().empty() && box.dynamicList().empty());
+        QVERIFY(box.getRenderedData().empty());
+    };
+    const auto check = [&](auto *variable) {
+        box.setup(variable, attributes, 0);
+        checkEmpty();
+    };
+    check(static_cast<ZelUIVarLS *>(nullptr));
+    check(static_cast<ZelUIVarRealFuncList *>(nullptr));
+    check(static_cast<ZelUIVarRealList *>(nullptr));
+    check(static_cast<ZelUIVarDBFuncList *>(nullptr));
+    check(static_cast<ZelUIVarDBList *>(nullptr));
+    check(static_cast<ZelUIVarFuncListDynamic *>(nullptr));
+    check(static_cast<ZelUIVarFuncList *>(nullptr));
+    check(static_cast<ZelUIVarList *>(nullptr));
+    box.setup(static_cast<ZelUIVarLubList *>(nullptr), attributes, true, true);
+    checkEmpty();
+    box.setup(static_cast<ZelUIVarMatList *>(nullptr), attributes, false);
+    checkEmpty();
 }
 
 QTEST_GUILESS_MAIN(tst_zelUIComboBox)
