@@ -19,6 +19,8 @@ private slots:
     void theSameValueLeavesTheFlag();
     void aValueWithoutFlagJustChanges();
     void aFlagThatIsSetStaysSet();
+    void assigningFromAnotherObjectTakesItsValueAlone();
+    void aNotANumberThatStaysOneIsNoChange();
     void theValueStandsBeforeTheFlagPointer();
 };
 
@@ -87,6 +89,34 @@ void tst_isDifferent::aFlagThatIsSetStaysSet()
     bool dirty = true;
     zelAutoDirty<double> value(1.5, &dirty);
     value = 1.5;
+    QVERIFY(dirty);
+}
+
+void tst_isDifferent::assigningFromAnotherObjectTakesItsValueAlone()
+{
+    bool dirty = false;
+    bool otherDirty = false;
+    zelAutoDirty<double> value(1.5, &dirty);
+    const zelAutoDirty<double> other(2.5, &otherDirty);
+    value = other;
+    QVERIFY(dirty);
+    QVERIFY(!otherDirty);
+    QCOMPARE(value.mValue, 2.5);
+    QCOMPARE(value.mDirty, &dirty);
+    QCOMPARE(zelAutoDirty<double>(other).mDirty, &otherDirty);
+}
+
+void tst_isDifferent::aNotANumberThatStaysOneIsNoChange()
+{
+    bool dirty = false;
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    zelAutoDirty<double> value(nan, &dirty);
+    value = nan;
+    QVERIFY(!dirty);
+    value = 1.0;
+    QVERIFY(dirty);
+    dirty = false;
+    value = nan;
     QVERIFY(dirty);
 }
 
