@@ -32,7 +32,8 @@ constexpr const char *introduction =
     "the units; what stands here is the nearest double. The last column says in which unit a\n"
     "variable shows first in the metric and in the US customary unit system. A value is stored in\n"
     "the unit of its variable, whatever it is shown in.\n\n"
-    "This page is made by `zelcheck --units`.\n\n"
+    "This page is made by `zelcheck --units` from `zelmath/zelDimensionsTable_p.h`; change "
+    "that.\n\n"
     "| Dimension | SI base | Text | In files | Factor | Offset | Default |\n"
     "|---|---|---|---|---|---|---|\n";
 
