@@ -1,7 +1,7 @@
 #include "zelFStream.h"
 
-zelFStream::zelFStream(const zelWString &fileName)
-    : mStream(fileName.toUtf8(), std::ios::binary)
+zelFStream::zelFStream(const zelWString &fileName, bool append)
+    : mStream(fileName.toUtf8(), std::ios::binary | (append ? std::ios::app : std::ios::trunc))
 {
 }
 

@@ -10,12 +10,15 @@
 class ZELTYPES_EXPORT zelFStream
 {
 public:
-    explicit zelFStream(const zelWString &fileName);
+    /// To no file.
+    zelFStream() = default;
+    /// With `append` what is in the file stays.
+    explicit zelFStream(const zelWString &fileName, bool append = false);
 
     zelFStream &operator<<(const zelWString &text);
     zelFStream &operator<<(char character);
 
-    bool good() const { return mStream.good(); }
+    bool good() const { return mStream.is_open() && mStream.good(); }
     void flush() { mStream.flush(); }
 
 private:

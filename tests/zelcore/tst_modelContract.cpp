@@ -8,6 +8,7 @@
 #include "zelDatabase.h"
 #include "zelDomNode.h"
 #include "zelFStream.h"
+#include "zelFile.h"
 #include "zelString.h"
 #include "zelUIBoard.h"
 #include "zelUIButtonBox.h"
@@ -17,6 +18,7 @@
 #include "zelUIEditButton.h"
 #include "zelUIExternalItem.h"
 #include "zelUIFileElement.h"
+#include "zelUIFileType.h"
 #include "zelUIFlag.h"
 #include "zelUIFlagElement.h"
 #include "zelUIFormulaLabel.h"
@@ -126,6 +128,15 @@ static_assert(
 static_assert(offers<std::map<short, zelWString> (*)(const zelWString &, const zelWString &,
                                                      const zelWString &)>(&DBreadmap));
 static_assert(offers<IdList (*)(const zelWString &, int)>(&DBreadmatlist));
+
+static_assert(offers<int (*)(ZelUIFileType)>(&FileFilter));
+static_assert(std::is_constructible_v<zelFile, const zelWString &, int, bool, zelFileEncoding>);
+static_assert(std::has_virtual_destructor_v<zelFile>);
+static_assert(offers<zelFStream &(zelFile::*)()>(&zelFile::stream));
+static_assert(offers<zelWString (*)()>(&zelFile::GetProjectDir));
+static_assert(offers<zelWString (*)(const zelWString &)>(&zelFile::CheckForStandardPath));
+static_assert(offers<zelWString (*)(const wchar_t *)>(&zelFile::GetFullName));
+static_assert((zelFile::Write | zelFile::Truncate) == 18 && int(zelFileEncoding::Utf8) == 1);
 
 // Units
 
@@ -404,6 +415,7 @@ private slots:
     void valuesStartEmpty();
     void listsStartEmpty();
     void buttonsStartWithoutTargets();
+    void filtersOfFilesAreTextsOfThePool();
 };
 
 void tst_modelContract::stateStartsOpen()
@@ -455,6 +467,15 @@ void tst_modelContract::buttonsStartWithoutTargets()
     QCOMPARE(button.mInfoIndex, 0);
     QVERIFY(!ZelUIButtonBox().getSingleButton());
     QVERIFY(ZelUIStdButtonBox().empty());
+}
+
+void tst_modelContract::filtersOfFilesAreTextsOfThePool()
+{
+    // Each ends with one pattern in brackets, from which file fields take their lists.
+    for (const int type : {0, 2, 6}) {
+        const std::wstring text = poolUi.GetString(FileFilter(ZelUIFileType(type)));
+        QVERIFY(QString::fromStdWString(text).contains(QRegularExpression(R"( \(\*\.[a-z*]+\)$)")));
+    }
 }
 
 QTEST_APPLESS_MAIN(tst_modelContract)
