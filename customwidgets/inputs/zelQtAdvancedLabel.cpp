@@ -71,7 +71,7 @@ QSize ZelQtAdvancedLabel::sizeHint() const
 
 QSize ZelQtAdvancedLabel::minimumSizeHint() const
 {
-    QSize hint = QLabel::minimumSizeHint();
+    QSize hint = ZelQtLabel::minimumSizeHint();
     hint.setWidth(fontMetrics().horizontalAdvance(QStringLiteral("...")));
     return hint;
 }

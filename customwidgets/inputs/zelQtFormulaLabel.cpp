@@ -27,7 +27,7 @@ int ZelQtFormulaLabel::formulaWidth() const
 
 QSize ZelQtFormulaLabel::sizeHint() const
 {
-    QSize hint = QLabel::sizeHint();
+    QSize hint = naturalSize();
     hint.setHeight(standardHeight(this));
     return hint;
 }

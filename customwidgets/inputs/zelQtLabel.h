@@ -25,12 +25,24 @@ public:
     int plainTextWidth(const QString &text) const;
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 public Q_SLOTS:
     /// Standard width instead of that of the text. The size policy becomes fixed in both
     /// directions, with `use` false as well.
     void setOurStdWidth(bool use);
 
+protected:
+    /// What QLabel::sizeHint() answers. It lays out a text document three times for that; most
+    /// texts are plain, and a single line of text gives the same.
+    QSize naturalSize() const;
+
 private:
+    bool isOneSimpleLine() const;
+
     bool mOurStdWidth = false;
+    // Of the text and the font that it was measured for.
+    mutable QSize mNaturalSize;
+    mutable QString mMeasuredText;
+    mutable QFont mMeasuredFont;
 };

@@ -58,7 +58,7 @@ int ZelQtUnitLabel::absUnitWidth() const
 
 QSize ZelQtUnitLabel::sizeHint() const
 {
-    return QLabel::sizeHint();
+    return naturalSize();
 }
 
 void ZelQtUnitLabel::setup(ZelUIMultiVar *variable, AttrMap &attributes)

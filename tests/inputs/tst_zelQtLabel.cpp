@@ -21,6 +21,10 @@ private slots:
     void measuresPlainText_data();
     void measuresPlainText();
     void measuresInItsOwnFont();
+    void hasTheSizeThatItsTextDocumentHas_data();
+    void hasTheSizeThatItsTextDocumentHas();
+    void hasTheSizeOfAFrameAndOfMarginsToo();
+    void measuresAgainAfterEveryChange();
     void anEntityIsWiderThanInTheFreeFunctionOnPurpose();
 };
 
@@ -161,6 +165,106 @@ void tst_zelQtLabel::anEntityIsWiderThanInTheFreeFunctionOnPurpose()
     QCOMPARE(label.plainTextWidth(), metrics.horizontalAdvance(QStringLiteral("________")));
     QCOMPARE(plainText(label.text()), QStringLiteral("____"));
     QVERIFY(label.plainTextWidth() != plainTextWidth(label.text(), metrics));
+}
+
+// A document is dear: most texts are measured without one, and nobody may see that.
+void tst_zelQtLabel::hasTheSizeThatItsTextDocumentHas_data()
+{
+    QTest::addColumn<QString>("text");
+    const char *const texts[] = {
+        "",
+        " ",
+        "Kraft",
+        "f",
+        "Übermaß der Paßfeder",
+        "two  spaces",
+        " before",
+        "behind ",
+        "two\nlines",
+        "a\ttab",
+        "a\u00a0space that stays",
+        "Kraft < Gewicht",
+        "Kraft & Moment",
+        "&deg;",
+        "x<sub>1</sub>",
+        "<b>fett</b>",
+        "AVAToTy.",
+        "fi ffl",
+        "شعاع",
+        "\u2028",
+    };
+    for (const char *text : texts)
+        QTest::addRow("\"%s\"", text) << QString::fromUtf8(text);
+    QTest::addRow("long") << QStringLiteral("Durchmesser ").repeated(300).trimmed();
+}
+
+void tst_zelQtLabel::hasTheSizeThatItsTextDocumentHas()
+{
+    QFETCH(QString, text);
+    for (const int pointSize : {7, 9, 13, 22}) {
+        for (const bool italic : {false, true}) {
+            ZelQtLabel label(text);
+            QLabel plain(text);
+            plain.setTextFormat(Qt::RichText);
+            QFont font = label.font();
+            font.setPointSize(pointSize);
+            font.setItalic(italic);
+            label.setFont(font);
+            plain.setFont(font);
+            QCOMPARE(label.minimumSizeHint(), plain.minimumSizeHint());
+            const int reserve = isPlainText(text) ? 0 : label.fontMetrics().averageCharWidth();
+            QCOMPARE(label.sizeHint().width(), plain.sizeHint().width() + reserve);
+        }
+    }
+}
+
+void tst_zelQtLabel::hasTheSizeOfAFrameAndOfMarginsToo()
+{
+    ZelQtLabel label(QStringLiteral("Kraft"));
+    QLabel plain(QStringLiteral("Kraft"));
+    plain.setTextFormat(Qt::RichText);
+    const auto change = [&](const std::function<void(QLabel &)> &changeOne) {
+        changeOne(label);
+        changeOne(plain);
+    };
+    const std::function<void(QLabel &)> changes[] = {
+        [](QLabel &one) { one.setIndent(5); },
+        [](QLabel &one) { one.setIndent(-1); },
+        [](QLabel &one) { one.setMargin(4); },
+        [](QLabel &one) { one.setMargin(0); },
+        [](QLabel &one) { one.setFrameShape(QFrame::Box); },
+        [](QLabel &one) { one.setFrameShape(QFrame::NoFrame); },
+        [](QLabel &one) { one.setContentsMargins(1, 2, 3, 4); },
+        [](QLabel &one) { one.setContentsMargins(0, 0, 0, 0); },
+        // Like QLabel not before the text is measured again: layouts keep to the minimum anyway.
+        [](QLabel &one) { one.setMinimumWidth(300); },
+        [](QLabel &one) { one.setText(QStringLiteral("Moment")); },
+        [](QLabel &one) { one.setMinimumWidth(0); },
+        [](QLabel &one) { one.setTextFormat(Qt::PlainText); },
+        [](QLabel &one) { one.setWordWrap(true); },
+        [](QLabel &one) { one.setPixmap(QPixmap(17, 18)); },
+    };
+    for (const auto &one : changes) {
+        change(one);
+        QCOMPARE(label.minimumSizeHint(), plain.minimumSizeHint());
+        QCOMPARE(label.sizeHint().width(), plain.sizeHint().width());
+    }
+}
+
+void tst_zelQtLabel::measuresAgainAfterEveryChange()
+{
+    ZelQtLabel label(QStringLiteral("Kraft"));
+    const int narrow = label.sizeHint().width();
+    label.setText(QStringLiteral("Kraft und Moment"));
+    QVERIFY(label.sizeHint().width() > narrow);
+    static_cast<QLabel &>(label).setText(QStringLiteral("Kraft"));
+    QCOMPARE(label.sizeHint().width(), narrow);
+
+    QFont font = label.font();
+    font.setPointSize(3 * font.pointSize());
+    label.setFont(font);
+    QVERIFY(label.sizeHint().width() > 2 * narrow);
+    QVERIFY(label.minimumSizeHint().width() > 2 * narrow);
 }
 
 QTEST_MAIN(tst_zelQtLabel)
