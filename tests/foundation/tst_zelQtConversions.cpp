@@ -17,6 +17,7 @@ private slots:
     void cleanup();
     void wideTextsKeepEveryCharacter_data();
     void wideTextsKeepEveryCharacter();
+    void oddCharactersGoTheWayOfQt();
     void narrowTextsAreUtf8();
     void textsOfThePoolsFollowTheLanguage();
     void unknownNumberIsAnEmptyText();
@@ -37,6 +38,22 @@ void tst_zelQtConversions::wideTextsKeepEveryCharacter_data()
     QTest::newRow("beyond Latin-1") << QString::fromUtf8("τ ≤ 日本");
     QTest::newRow("beyond 16 bits") << QString::fromUtf8("\U0001D6D5");
     QTest::newRow("with a zero inside") << QString("a") + QChar(0) + "b";
+    QTest::newRow("below the byte order mark") << QStringLiteral("a\ufefe");
+}
+
+// As QString::fromWCharArray() takes them, which is not asked for every text.
+void tst_zelQtConversions::oddCharactersGoTheWayOfQt()
+{
+    const std::wstring texts[] = {L"\xfeff"
+                                  L"a",
+                                  L"a\xfeff",
+                                  L"\xffff",
+                                  L"\xd800",
+                                  L"a\xdfff"
+                                  L"b",
+                                  L"\x10ffff"};
+    for (const std::wstring &text : texts)
+        QCOMPARE(toQString(zelWString(text)), QString::fromStdWString(text));
 }
 
 void tst_zelQtConversions::wideTextsKeepEveryCharacter()
