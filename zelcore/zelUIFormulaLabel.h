@@ -14,7 +14,7 @@ public:
     using ZelUIItem::setup;
 
     virtual void setup(ZelUIMultiVar *variable, AttrMap &attributes);
-    zelWString getFormula() const { return mFormula; }
+    const zelWString &getFormula() const { return mFormula; }
     /// For symbols of variables that are no numbers.
     void setModelFormula(const zelWString &formula) { mFormula = formula; }
 

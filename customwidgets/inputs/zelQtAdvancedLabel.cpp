@@ -3,6 +3,7 @@
 #include "zelQtConversions.h"
 #include "zelQtLabelState_p.h"
 #include "zelQtTextHelpers.h"
+#include "zelQtUnseenChange_p.h"
 #include "zelQtWidgetHelpers_p.h"
 
 #include <QApplication>
@@ -38,7 +39,7 @@ ZelQtAdvancedLabel::~ZelQtAdvancedLabel() = default;
 
 void ZelQtAdvancedLabel::setText(const QString &text)
 {
-    QLabel::setText(text);
+    changeMaybeUnseen(this, [&] { QLabel::setText(text); });
     setStatusTip(text);
 }
 

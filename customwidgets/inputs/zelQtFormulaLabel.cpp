@@ -4,6 +4,7 @@
 #include "zelQtFormelanzeige.h"
 #include "zelQtLabelState_p.h"
 #include "zelQtOwnPopup_p.h"
+#include "zelQtSameText_p.h"
 #include "zelQtWidgetHelpers_p.h"
 
 #include <QContextMenuEvent>
@@ -47,7 +48,8 @@ void ZelQtFormulaLabel::updateState(Meta *meta, int64_t id)
 void ZelQtFormulaLabel::setData(Meta *meta, int64_t id)
 {
     ZelUIFormulaLabel::setData(meta, id);
-    setText(toQString(getFormula()));
+    if (!isSameText(text(), getFormula().view()))
+        setText(toQString(getFormula()));
 }
 
 void ZelQtFormulaLabel::contextMenuEvent(QContextMenuEvent *event)

@@ -3,6 +3,8 @@
 #include "zelQtContextMenu.h"
 #include "zelQtConversions.h"
 #include "zelQtLabelState_p.h"
+#include "zelQtSameText_p.h"
+#include "zelQtUnseenChange_p.h"
 #include "zelQtWidgetHelpers_p.h"
 
 #include <QContextMenuEvent>
@@ -94,12 +96,13 @@ void ZelQtUnitLabel::setData(Meta *meta, int64_t id)
     ZelUIUnitLabel::setData(meta, id);
     // Not only for a dynamic unit: the model takes the unit that the user chose earlier from meta.
     // A fresh mask, or another object, may show another one. Silent, like every refresh.
-    updateUnit();
+    if (!isSameText(text(), getUnitString().view()))
+        updateUnit();
 }
 
 void ZelQtUnitLabel::updateUnit()
 {
-    QLabel::setText(currentUnit());
+    changeMaybeUnseen(this, [this] { QLabel::setText(currentUnit()); });
 }
 
 void ZelQtUnitLabel::contextMenuEvent(QContextMenuEvent *event)

@@ -7,14 +7,32 @@
 #include "zelQtFormeleingabe.h"
 #include "zelQtOwnPopup_p.h"
 #include "zelQtSaturate_p.h"
+#include "zelQtUnseenChange_p.h"
 #include "zelQtWidgetHelpers_p.h"
 #include "zelQtWinkeleingabe.h"
 #include "zelUIMultiVar.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDoubleValidator>
+
+#include <algorithm>
 
 static_assert(ZelQtValueEdit::mDefaultDecimals == zelQtDefaultDecimals);
+
+namespace {
+
+// Set for the field itself, and not only taken over from the application.
+bool hasColor(const QPalette &colors, const QColor &color)
+{
+    const auto groups = {QPalette::Active, QPalette::Inactive, QPalette::Disabled};
+    return std::all_of(groups.begin(), groups.end(), [&](QPalette::ColorGroup group) {
+        return colors.isBrushSet(group, QPalette::Text)
+            && colors.brush(group, QPalette::Text) == QBrush(color);
+    });
+}
+
+} // namespace
 
 ZelQtValueEdit::ZelQtValueEdit(QWidget *parent)
     : ZelQtLineEdit(parent)
@@ -101,14 +119,28 @@ void ZelQtValueEdit::setWert(double value, const QString &unit)
 void ZelQtValueEdit::updateWert()
 {
     if (!isEnabled() && !mEnabledOverride) {
-        setText(QString());
+        showText(QString());
         return;
     }
     const double value = valueInCurrentUnit();
-    if (isOfTypeInteger())
-        setText(QString::number(saturate<qlonglong>(Runde(value, 0))));
-    else
-        setText(QString::number(value, isScientificNotation() ? 'e' : 'f', defaultDecimals()));
+    if (const auto *real = qobject_cast<const QDoubleValidator *>(validator())) {
+        const bool scientific = real->notation() == QDoubleValidator::ScientificNotation;
+        showText(QString::number(value, scientific ? 'e' : 'f', real->decimals()));
+    } else if (isOfTypeInteger()) {
+        showText(QString::number(saturate<qlonglong>(Runde(value, 0))));
+    } else {
+        showText(QString::number(value, 'f', 0));
+    }
+}
+
+// Most refreshes show what stands there. Setting it again would only end a selection, move the
+// cursor to the end and forget what was typed.
+void ZelQtValueEdit::showText(const QString &text)
+{
+    const bool untouched = !hasFocus() && !isModified() && !hasSelectedText() && !isUndoAvailable()
+        && !isRedoAvailable() && cursorPosition() == text.size();
+    if (!untouched || text != this->text())
+        changeMaybeUnseen(this, [&] { setText(text); });
 }
 
 QString ZelQtValueEdit::defaultUnitString() const
@@ -169,6 +201,8 @@ void ZelQtValueEdit::setMessageState(int state)
 void ZelQtValueEdit::setTextColor(const QColor &color)
 {
     QPalette colors = palette();
+    if (hasColor(colors, color))
+        return; // a new palette goes through the whole application
     colors.setColor(QPalette::Text, color);
     setPalette(colors);
 }

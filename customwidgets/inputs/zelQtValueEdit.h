@@ -108,11 +108,13 @@ private:
 
     void init();
     double valueIn(const QString &unit) const;
+    void showText(const QString &text);
     void setTextColor(const QColor &color);
 
     void setIntValidator();
     void setDoubleValidator(int decimals, bool scientific);
     /// A real or integer validator, as the field is, with limits in the current unit.
+    bool hasLimits(double bottom, double top) const;
     void setLimits(double bottom, double top);
     double validatorBottom() const;
     double validatorTop() const;

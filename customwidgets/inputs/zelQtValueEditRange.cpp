@@ -5,11 +5,18 @@
 
 #include "zelQtConversions.h"
 
+#include <bit>
 #include <cfloat>
 #include <climits>
+#include <cstdint>
 
 // The part of the value edit that deals with its validator: mode, decimals, notation and limits
 // live there. A validator is replaced, never changed.
+
+static bool sameBits(double a, double b)
+{
+    return std::bit_cast<uint64_t>(a) == std::bit_cast<uint64_t>(b);
+}
 
 bool ZelQtValueEdit::isOfTypeInteger() const
 {
@@ -155,8 +162,21 @@ void ZelQtValueEdit::changeUnit(const QString &newUnit)
     updateWert();
 }
 
+// What updateRange() would make is there already. A refresh asks for every field of a mask.
+bool ZelQtValueEdit::hasLimits(double bottom, double top) const
+{
+    if (const auto *real = qobject_cast<const ZelQtDoubleValidator *>(validator()))
+        return real->notation() == QDoubleValidator::StandardNotation
+            && sameBits(real->bottom(), bottom) && sameBits(real->top(), top);
+    const auto *integer = qobject_cast<const ZelQtIntValidator *>(validator());
+    return integer && integer->bottom() == saturate<int>(bottom)
+        && integer->top() == saturate<int>(top);
+}
+
 void ZelQtValueEdit::setLimits(double bottom, double top)
 {
+    if (hasLimits(bottom, top))
+        return;
     if (isOfTypeInteger()) {
         auto *integer = new ZelQtIntValidator(this);
         integer->setRange(saturate<int>(bottom), saturate<int>(top));

@@ -36,11 +36,6 @@ template <class Test> bool anyGraphicsView(const QLayout *layout, Test test)
     return false;
 }
 
-bool isGraphicsView(const QGraphicsView *)
-{
-    return true;
-}
-
 } // namespace
 
 ZelQtColumnLayout::ZelQtColumnLayout(QWidget *parent)
@@ -231,15 +226,30 @@ void ZelQtColumnLayout::setData(Meta *meta, int64_t id)
         invalidate();
 }
 
+// Every item that comes or goes invalidates the layout, but for takeAt().
+void ZelQtColumnLayout::invalidate()
+{
+    mCountedItems = -1;
+    QGridLayout::invalidate();
+}
+
+bool ZelQtColumnLayout::holdsGraphicsView() const
+{
+    if (mCountedItems != count()) {
+        mCountedItems = count();
+        mHoldsGraphicsView = anyGraphicsView(this, [](const QGraphicsView *) { return true; });
+    }
+    return mHoldsGraphicsView;
+}
+
 bool ZelQtColumnLayout::containsViews(bool visibleOnly) const
 {
-    return ZelUIColumn::containsViews(visibleOnly) || anyGraphicsView(this, isGraphicsView);
+    return ZelUIColumn::containsViews(visibleOnly) || holdsGraphicsView();
 }
 
 bool ZelQtColumnLayout::containsExpandingViews(bool visibleOnly) const
 {
-    return ZelUIColumn::containsExpandingViews(visibleOnly)
-        || anyGraphicsView(this, isGraphicsView);
+    return ZelUIColumn::containsExpandingViews(visibleOnly) || holdsGraphicsView();
 }
 
 bool ZelQtColumnLayout::isContentVisible()

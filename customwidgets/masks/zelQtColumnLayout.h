@@ -45,6 +45,8 @@ public:
     void finishLayout() override;
     bool isContentVisible() override;
 
+    void invalidate() override;
+
 protected:
     /// Gives the box its buttons in a row and puts it, even when it is empty, into the column of
     /// the icon buttons, moved right by `columnOffset`.
@@ -60,6 +62,11 @@ private:
     void addOneLineMaterial(int row, ZelUIMatElement *element);
     QHBoxLayout *tableButtons(ZelUITableElement *element) const;
 
+    bool holdsGraphicsView() const;
+
+    // The answer of holdsGraphicsView() for that many items; below 0 when it isn't known.
+    mutable int mCountedItems = -1;
+    mutable bool mHoldsGraphicsView = false;
     /// Null until finishLayout(); owned by the grid.
     QSpacerItem *mBottomSpacer = nullptr;
 };

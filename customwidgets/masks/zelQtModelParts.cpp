@@ -23,6 +23,13 @@ void placeLayoutItem(QGridLayout *grid, ZelUILayoutItem *item)
         grid->addLayout(layout, item->row(), item->column(), item->rowSpan(), item->columnSpan());
 }
 
+void changeRowStretch(QGridLayout *grid, int row, int stretch)
+{
+    // Each call lays out the whole mask anew, and each refresh comes here.
+    if (row >= grid->rowCount() || grid->rowStretch(row) != stretch)
+        grid->setRowStretch(row, stretch);
+}
+
 int boardStretch(const ZelUIBoard &board)
 {
     return board.mVisible && board.containsExpandingViews(true) ? 100 : 0;

@@ -50,5 +50,7 @@ template <class Part> Part *partAt(const std::vector<Part *> &parts, size_t inde
 void appendColumns(QBoxLayout *row, const std::vector<ZelUIColumn *> &columns);
 /// A widget or a layout goes to the place that the item asks for; anything else is skipped.
 void placeLayoutItem(QGridLayout *grid, ZelUILayoutItem *item);
+/// Sets the stretch of a row, and leaves the layout alone where that is so already.
+void changeRowStretch(QGridLayout *grid, int row, int stretch);
 /// Stretch of the row of a board: 100 while a view of it shows that takes all room, else 0.
 int boardStretch(const ZelUIBoard &board);

@@ -45,7 +45,7 @@ void ZelQtTabPage::setData(Meta *meta, int64_t id)
         return;
     for (ZelUILayoutItem *item : mItems) {
         if (auto *board = dynamic_cast<ZelUIBoard *>(item))
-            grid->setRowStretch(board->row(), boardStretch(*board));
+            changeRowStretch(grid, board->row(), boardStretch(*board));
     }
 }
 

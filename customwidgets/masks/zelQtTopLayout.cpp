@@ -33,8 +33,8 @@ void ZelQtTopLayout::setData(Meta *meta, int64_t id)
     ZelUITopLayout::setData(meta, id);
     for (ZelUILayoutItem *item : mItems) {
         if (dynamic_cast<ZelUITabContainer *>(item))
-            setRowStretch(item->row(), item->state().mVisible ? 100 : 0);
+            changeRowStretch(this, item->row(), item->state().mVisible ? 100 : 0);
         else if (auto *board = dynamic_cast<ZelUIBoard *>(item))
-            setRowStretch(board->row(), boardStretch(*board));
+            changeRowStretch(this, board->row(), boardStretch(*board));
     }
 }

@@ -8,6 +8,10 @@
 
 // What a value edit shows: the text of the number, and its colour.
 
+using Fixture = FieldOnPage<ZelQtValueEdit>;
+
+Q_DECLARE_METATYPE(std::function<void(ZelQtValueEdit &)>)
+
 class tst_zelQtValueEdit_display : public QObject
 {
     Q_OBJECT
@@ -26,6 +30,9 @@ private slots:
     void newDecimalsEndScientificNotation();
     void integerFieldKnowsNeitherDecimalsNorNotation();
     void propertiesOfTheNumberForm();
+    void theSameTextAgainEndsWhatTheUserDid_data();
+    void theSameTextAgainEndsWhatTheUserDid();
+    void theSameTextAgainTellsNobody();
 
     // disabled
     void disabledFieldShowsNothing();
@@ -42,6 +49,8 @@ private slots:
     void messageColorStaysUntilTheNextCall();
     void setDataTouchesTheColorWithAPriorityNameOnly();
     void setPriorityTakesTheColorFromTheChoice();
+    void theSameColorAgainIsNoNewPalette();
+    void aColorOnceSetStaysWhenThePaletteOfTheApplicationChanges();
 
     void doubleClickSelectsTheWholeNumber();
     void doubleClickOfOtherButtonsDoesNothing();
@@ -170,6 +179,58 @@ void tst_zelQtValueEdit_display::propertiesOfTheNumberForm()
     QVERIFY(field.setProperty("integer", false));
     // The way back takes the decimals of the element, which a plain field never changed.
     QCOMPARE(field.property("decimals").toInt(), 4);
+}
+
+void tst_zelQtValueEdit_display::theSameTextAgainEndsWhatTheUserDid_data()
+{
+    using Act = std::function<void(ZelQtValueEdit &)>;
+    QTest::addColumn<Act>("act");
+    QTest::newRow("nothing") << Act([](ZelQtValueEdit &) {});
+    QTest::newRow("selection") << Act([](ZelQtValueEdit &field) { field.selectAll(); });
+    QTest::newRow("cursor") << Act([](ZelQtValueEdit &field) { field.setCursorPosition(2); });
+    QTest::newRow("typed") << Act([](ZelQtValueEdit &field) {
+        QTest::keyClick(&field, Qt::Key_Backspace);
+        QTest::keyClick(&field, Qt::Key_0);
+    });
+    QTest::newRow("undone") << Act([](ZelQtValueEdit &field) {
+        QTest::keyClick(&field, Qt::Key_Backspace);
+        field.undo();
+    });
+    QTest::newRow("modified") << Act([](ZelQtValueEdit &field) { field.setModified(true); });
+}
+
+void tst_zelQtValueEdit_display::theSameTextAgainEndsWhatTheUserDid()
+{
+    QFETCH(std::function<void(ZelQtValueEdit &)>, act);
+    for (const bool focused : {false, true}) {
+        Fixture fixture;
+        ZelQtValueEdit &field = fixture.mField;
+        if (focused)
+            QVERIFY(fixture.enter());
+        field.setWert(2.5, QString());
+        act(field);
+        QCOMPARE(field.text(), QStringLiteral("2.5000"));
+        field.setWert(2.5, QString());
+        QCOMPARE(field.text(), QStringLiteral("2.5000"));
+        QVERIFY(!field.hasSelectedText());
+        QVERIFY(!field.isModified());
+        QVERIFY(!field.isUndoAvailable());
+        QVERIFY(!field.isRedoAvailable());
+        QCOMPARE(field.cursorPosition(), 6);
+    }
+}
+
+void tst_zelQtValueEdit_display::theSameTextAgainTellsNobody()
+{
+    ZelQtValueEdit field;
+    field.setWert(2.5, QString());
+    const QSignalSpy changed(&field, &QLineEdit::textChanged);
+    const QSignalSpy moved(&field, &QLineEdit::cursorPositionChanged);
+    field.setWert(2.5, QString());
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(moved.count(), 0);
+    field.setWert(2.6, QString());
+    QCOMPARE(changed.count(), 1);
 }
 
 void tst_zelQtValueEdit_display::disabledFieldShowsNothing()
@@ -332,6 +393,48 @@ void tst_zelQtValueEdit_display::setPriorityTakesTheColorFromTheChoice()
     meta.pick(*choice, 1, 2, ZelOrigin::User);
     field.setPriority(&meta);
     QVERIFY(color(field) != QColor(Qt::gray));
+}
+
+// A new palette goes through the whole application, and refreshes set the state of every field.
+void tst_zelQtValueEdit_display::theSameColorAgainIsNoNewPalette()
+{
+    class Counter : public ZelQtValueEdit
+    {
+    public:
+        int mPalettes = 0;
+
+    protected:
+        void changeEvent(QEvent *event) override
+        {
+            mPalettes += event->type() == QEvent::PaletteChange ? 1 : 0;
+            ZelQtValueEdit::changeEvent(event);
+        }
+    };
+    Counter field;
+    field.setMessageState(1);
+    const int afterFirst = field.mPalettes;
+    QVERIFY(afterFirst > 0);
+    field.setMessageState(1);
+    QCOMPARE(field.mPalettes, afterFirst);
+    field.setMessageState(2);
+    QVERIFY(field.mPalettes > afterFirst);
+}
+
+void tst_zelQtValueEdit_display::aColorOnceSetStaysWhenThePaletteOfTheApplicationChanges()
+{
+    const QPalette former = QApplication::palette();
+    const QColor own = former.color(QPalette::Text);
+    ZelQtValueEdit untouched;
+    ZelQtValueEdit touched;
+    touched.setMessageState(0); // the default colour, but from now on the field's own
+    QPalette other = former;
+    other.setColor(QPalette::Text, Qt::blue);
+    QApplication::setPalette(other);
+    const QColor colorOfUntouched = color(untouched);
+    const QColor colorOfTouched = color(touched);
+    QApplication::setPalette(former);
+    QCOMPARE(colorOfUntouched, QColor(Qt::blue));
+    QCOMPARE(colorOfTouched, own);
 }
 
 void tst_zelQtValueEdit_display::doubleClickSelectsTheWholeNumber()

@@ -17,6 +17,9 @@ private slots:
     // replacement
     void freshFieldIsAnOpenRealField();
     void validatorIsReplacedAndBelongsToTheField();
+    void rangeUpdateWithoutChangeKeepsTheValidator_data();
+    void rangeUpdateWithoutChangeKeepsTheValidator();
+    void rangeUpdateReplacesWhatIsNotItsOwn();
 
     // limits
     void limitsStandInTheCurrentUnit();
@@ -100,6 +103,63 @@ void tst_zelQtValueEdit_validators::validatorIsReplacedAndBelongsToTheField()
     QVERIFY(replaced([&] { field.setTop(8); }));
     QVERIFY(replaced([&] { field.setTypeToInteger(false); }));
     QVERIFY(replaced([&] { field.changeUnit(QString()); }));
+}
+
+// Refreshes update the range of every field of a mask.
+void tst_zelQtValueEdit_validators::rangeUpdateWithoutChangeKeepsTheValidator_data()
+{
+    QTest::addColumn<bool>("isInteger");
+    QTest::addColumn<bool>("hasBottom");
+    QTest::addColumn<bool>("hasTop");
+    for (const bool isInteger : {false, true}) {
+        for (const bool hasBottom : {false, true}) {
+            for (const bool hasTop : {false, true})
+                QTest::addRow("%d %d %d", isInteger, hasBottom, hasTop)
+                    << isInteger << hasBottom << hasTop;
+        }
+    }
+}
+
+void tst_zelQtValueEdit_validators::rangeUpdateWithoutChangeKeepsTheValidator()
+{
+    QFETCH(bool, isInteger);
+    QFETCH(bool, hasBottom);
+    QFETCH(bool, hasTop);
+    ZelQtValueEdit field(QStringLiteral("mm"), QStringLiteral("cm"));
+    field.setTypeToInteger(isInteger);
+    if (hasBottom)
+        field.setBottom(-20);
+    if (hasTop)
+        field.setTop(35);
+    field.updateRange();
+    const QPointer<const QValidator> former(field.validator());
+    field.updateRange();
+    QVERIFY(former && former == field.validator());
+    QCOMPARE(field.isOfTypeInteger(), isInteger);
+    if (!hasBottom && !hasTop)
+        return;
+    field.setCurrentUnit(ZelDimensions::getUnit(L"mm"));
+    QVERIFY(former == field.validator()); // limits in the former unit, until the next update
+    field.updateRange();
+    QVERIFY(!former);
+}
+
+void tst_zelQtValueEdit_validators::rangeUpdateReplacesWhatIsNotItsOwn()
+{
+    ZelQtValueEdit field;
+    field.setRange(1, 10, false);
+    const auto replaced = [&field] {
+        const QPointer<const QValidator> former(field.validator());
+        field.updateRange();
+        return !former && real(field) && real(field)->bottom() == 1 && real(field)->top() == 10
+            && real(field)->notation() == QDoubleValidator::StandardNotation;
+    };
+    field.setScientificNotation(true);
+    QVERIFY(replaced());
+    field.setValidator(new QDoubleValidator(1, 10, 4, &field));
+    QVERIFY(replaced());
+    field.changeUnit(QString());
+    QVERIFY(replaced());
 }
 
 void tst_zelQtValueEdit_validators::limitsStandInTheCurrentUnit()

@@ -164,6 +164,7 @@ private Q_SLOTS:
     void setDataInvalidatesOnlyWhenTheSpacerChanged();
     void columnWithoutViewsSticksToTheTop();
     void graphicsViewCountsAsView();
+    void graphicsViewsThatComeAndGoAreNoticed();
     void graphicsViewMakesTheContentVisibleWhileItShows();
     void elementsMakeTheContentVisible();
 };
@@ -308,6 +309,31 @@ void tst_zelQtColumnLayout::graphicsViewCountsAsView()
     }
     mask.mColumn->setData(nullptr, 0);
     QCOMPARE(mask.bottomPolicy(), QSizePolicy::Fixed);
+}
+
+void tst_zelQtColumnLayout::graphicsViewsThatComeAndGoAreNoticed()
+{
+    Mask mask;
+    ZelQtColumnLayout &column = *mask.mColumn;
+    column.addWidget(new QLabel, 0, 0);
+    QVERIFY(!column.containsViews(true));
+    auto *view = new QGraphicsView;
+    column.addWidget(view, 1, 0);
+    QVERIFY(column.containsViews(true));
+    column.removeWidget(view);
+    QVERIFY(!column.containsExpandingViews(true));
+    column.addWidget(view, 1, 0);
+    QVERIFY(column.containsExpandingViews(true));
+    delete view;
+    QVERIFY(!column.containsViews(true));
+
+    view = new QGraphicsView;
+    column.addWidget(view, 1, 0);
+    QVERIFY(column.containsViews(true));
+    delete column.takeAt(1);
+    column.addWidget(new QLabel, 1, 0); // as many items as before
+    QVERIFY(!column.containsViews(true));
+    delete view;
 }
 
 void tst_zelQtColumnLayout::graphicsViewMakesTheContentVisibleWhileItShows()
