@@ -1,8 +1,8 @@
 #include "zelQtComboBox.h"
 
+#include "zelQtConfirmation_p.h"
 #include "zelQtConversions.h"
 #include "zelQtItemDelegate.h"
-#include "zelQtConfirmation_p.h"
 #include "zelQtTextHelpers.h"
 
 #include <QAbstractItemView>

@@ -1,8 +1,8 @@
 #include "zelQtEditButton.h"
 
 #include "zelQtCheckBox.h"
-#include "zelQtRadioButton.h"
 #include "zelQtConfirmation_p.h"
+#include "zelQtRadioButton.h"
 #include "zelUIMultiVar.h"
 
 #include <QEvent>

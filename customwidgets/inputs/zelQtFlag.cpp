@@ -1,7 +1,7 @@
 #include "zelQtFlag.h"
 
-#include "zelQtConversions.h"
 #include "zelQtConfirmation_p.h"
+#include "zelQtConversions.h"
 #include "zelQtTextHelpers.h"
 
 ZelQtFlag::ZelQtFlag(QWidget *parent)

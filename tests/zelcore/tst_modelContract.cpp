@@ -274,7 +274,8 @@ static_assert(offers<zelWString (ZelUIFlag::*)() const>(&ZelUIFlag::getText));
 static_assert(offers<zelWString (ZelUIUnitLabel::*)() const>(&ZelUIUnitLabel::getUnitString));
 static_assert(offers<std::vector<zelWString> (ZelUIUnitLabel::*)() const>(
     &ZelUIUnitLabel::getUnitStringList));
-static_assert(offers<zelWString (ZelUIFormulaLabel::*)() const>(&ZelUIFormulaLabel::getFormula));
+static_assert(
+    offers<const zelWString &(ZelUIFormulaLabel::*)() const>(&ZelUIFormulaLabel::getFormula));
 static_assert(std::is_constructible_v<ZelUITextLabel, ZelUIAlignment>);
 static_assert(offers<zelWString (ZelUITextLabel::*)() const>(&ZelUITextLabel::getText));
 static_assert(offers<ZelUIAlignment (ZelUITextLabel::*)() const>(&ZelUITextLabel::getAlignment));
